@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+/// The user's base directories as the XDG Base Directory Specification gives them: an environment
+/// variable where it holds an absolute path, else the default below the home directory.
+namespace quillmere::xdg {
+
+QString configHome();
+QString stateHome();
+
+} // namespace quillmere::xdg

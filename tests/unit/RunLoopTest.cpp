@@ -1,0 +1,264 @@
+#include "platform/RunLoop.h"
+
+#include "platform/linux/core/QtRunLoop.h"
+#include "support/ManualRunLoop.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+
+using namespace quillmere;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// The two implementations behind one face, so that every case below runs against both.
+struct Subject {
+    virtual ~Subject() = default;
+    virtual RunLoop &loop() = 0;
+    /// Lets the loop run until `done` holds; false when it still doesn't after `limit`.
+    virtual bool runUntil(const std::function<bool()> &done, Duration limit = 10s) = 0;
+    virtual void stall(Duration span) = 0;
+};
+
+struct ManualSubject : Subject {
+    RunLoop &loop() override { return manual; }
+    bool runUntil(const std::function<bool()> &done, Duration limit) override
+    {
+        manual.settle();
+        for (Duration passed{}; !done() && passed < limit; passed += 1ms)
+            manual.advance(1ms);
+        return done();
+    }
+    void stall(Duration span) override { manual.stall(span); }
+    ManualRunLoop manual;
+};
+
+struct QtSubject : Subject {
+    RunLoop &loop() override { return qt; }
+    bool runUntil(const std::function<bool()> &done, Duration limit) override
+    {
+        const Instant end = qt.now() + limit;
+        const Task alarm =
+            qt.every(20ms, 0ms, [] {}); // so that waiting for events can't last for ever
+        while (!done() && qt.now() < end)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        return done();
+    }
+    void stall(Duration span) override
+    {
+        const Instant end = qt.now() + span;
+        while (qt.now() < end) {
+        }
+    }
+    int argc = 1;
+    char name[5] = "test";
+    char *argv[2] = {name, nullptr};
+    QCoreApplication application{argc, argv};
+    QtRunLoop qt;
+};
+
+class RunLoopTest : public testing::TestWithParam<bool>
+{
+protected:
+    void SetUp() override
+    {
+        if (GetParam())
+            subject = std::make_unique<QtSubject>();
+        else
+            subject = std::make_unique<ManualSubject>();
+    }
+    RunLoop &loop() { return subject->loop(); }
+    std::unique_ptr<Subject> subject;
+};
+
+TEST_P(RunLoopTest, DelayedActionsRunInDeadlineOrderAndOnce)
+{
+    std::vector<int> order;
+    const Task late = loop().after(30ms, [&] { order.push_back(3); });
+    const Task early = loop().after(5ms, [&] { order.push_back(1); });
+    const Task middle = loop().after(15ms, [&] { order.push_back(2); });
+    ASSERT_TRUE(subject->runUntil([&] { return order.size() == 3; }));
+    EXPECT_EQ(order, (std::vector{1, 2, 3}));
+    bool later = false;
+    const Task end = loop().after(60ms, [&] { later = true; });
+    ASSERT_TRUE(subject->runUntil([&] { return later; }));
+    EXPECT_EQ(order.size(), 3U);
+}
+
+TEST_P(RunLoopTest, DestroyedReplacedAndSelfCancelledTasksStayQuiet)
+{
+    int destroyed = 0;
+    int replaced = 0;
+    int repeated = 0;
+    {
+        const Task gone = loop().after(5ms, [&] { ++destroyed; });
+    }
+    Task slot = loop().after(5ms, [&] { ++replaced; });
+    slot = loop().after(6ms, [&] { replaced += 10; });
+    Task repeating;
+    repeating = loop().every(4ms, 0ms, [&] {
+        if (++repeated == 2)
+            repeating.cancel();
+    });
+    bool end = false;
+    const Task last = loop().after(50ms, [&] { end = true; });
+    ASSERT_TRUE(subject->runUntil([&] { return end; }));
+    EXPECT_EQ(destroyed, 0);
+    EXPECT_EQ(replaced, 10);
+    EXPECT_EQ(repeated, 2);
+}
+
+TEST_P(RunLoopTest, ATimerMayCancelAnotherDueAtTheSameMoment)
+{
+    int fired = 0;
+    Task second;
+    const Task first = loop().after(10ms, [&] { second.cancel(); });
+    second = loop().after(10ms, [&] { ++fired; });
+    bool end = false;
+    const Task last = loop().after(30ms, [&] { end = true; });
+    ASSERT_TRUE(subject->runUntil([&] { return end; }));
+    EXPECT_EQ(fired, 0);
+}
+
+TEST_P(RunLoopTest, AfterAStallARepeatingTimerFiresOnce)
+{
+    int fired = 0;
+    const Task repeating = loop().every(100ms, 0ms, [&] { ++fired; });
+    subject->stall(560ms);
+    ASSERT_TRUE(subject->runUntil([&] { return fired > 0; }));
+    EXPECT_EQ(fired, 1);
+}
+
+TEST_P(RunLoopTest, PostsKeepTheirOrderAndDieWithTheirOwner)
+{
+    std::vector<int> order;
+    auto owner = std::make_unique<Owner>();
+    loop().post([&] { order.push_back(1); });
+    loop().post(*owner, [&] { order.push_back(99); });
+    loop().post([&] { order.push_back(2); });
+    owner.reset();
+    EXPECT_TRUE(order.empty()) << "a post never runs inside post()";
+    ASSERT_TRUE(subject->runUntil([&] { return order.size() >= 2; }));
+    EXPECT_EQ(order, (std::vector{1, 2}));
+}
+
+TEST_P(RunLoopTest, AnotherThreadReachesTheMainThreadByPosting)
+{
+    std::atomic<bool> offMain = true;
+    bool arrived = false;
+    bool onMain = false;
+    std::thread other([&] {
+        offMain = !loop().isMainThread();
+        loop().post([&] {
+            onMain = loop().isMainThread();
+            arrived = true;
+        });
+    });
+    other.join();
+    EXPECT_FALSE(arrived) << "it ran on the other thread";
+    ASSERT_TRUE(subject->runUntil([&] { return arrived; }));
+    EXPECT_TRUE(offMain);
+    EXPECT_TRUE(onMain);
+}
+
+TEST_P(RunLoopTest, BackgroundResultsComeBackOnlyToLivingOwners)
+{
+    int result = 0;
+    bool orphan = false;
+    const Owner alive;
+    {
+        const Owner dead;
+        loop().background(
+            dead, [] { return 1; }, [&](int) { orphan = true; });
+    }
+    loop().background(
+        alive, [] { return 7; },
+        [&](int value) {
+            EXPECT_TRUE(loop().isMainThread());
+            result = value;
+        });
+    ASSERT_TRUE(subject->runUntil([&] { return result == 7; }));
+    bool done = false;
+    loop().background(
+        alive, [] {}, [&] { done = true; });
+    ASSERT_TRUE(subject->runUntil([&] { return done; }));
+    EXPECT_FALSE(orphan);
+}
+
+TEST_P(RunLoopTest, ASerialQueueKeepsOrderAndFinishesBeforeItIsGone)
+{
+    std::vector<int> order;
+    {
+        const auto queue = loop().makeSerialQueue(QStringLiteral("test"));
+        for (int i = 0; i < 100; ++i)
+            queue->async([&order, i] { order.push_back(i); });
+    }
+    subject->runUntil([&] { return order.size() == 100; });
+    ASSERT_EQ(order.size(), 100U);
+    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Both, RunLoopTest, testing::Values(false, true),
+                         [](const auto &info) { return info.param ? "Qt" : "Manual"; });
+
+struct CoalescingCase {
+    const char *name;
+    std::vector<std::pair<Duration, Duration>> timers; // interval, tolerance
+    Duration span;
+    int wakeUpsWithin; // at most
+};
+
+TEST(TimerCoalescing, TimersWithOverlappingWindowsShareWakeUps)
+{
+    const CoalescingCase cases[] = {
+        {"a poll alone wakes on its own beat", {{200ms, 50ms}}, 60s, 300},
+        {"a poll, a playhead, a second and the statistics wake hardly more than poll and playhead",
+         {{200ms, 50ms}, {1s, 100ms}, {3s, 500ms}},
+         60s,
+         301},
+        {"poll and playhead meet every second of the time",
+         {{200ms, 50ms}, {250ms, 50ms}},
+         60s,
+         480},
+    };
+    for (const auto &test : cases) {
+        SCOPED_TRACE(test.name);
+        ManualRunLoop loop;
+        std::vector<int> fired(test.timers.size());
+        std::vector<Task> tasks;
+        for (std::size_t i = 0; i < test.timers.size(); ++i) {
+            loop.advance(37ms); // timers start when their features do, not together
+            tasks.push_back(loop.every(test.timers[i].first, test.timers[i].second,
+                                       [&fired, i] { ++fired[i]; }));
+        }
+        const int before = loop.wakeUps();
+        loop.advance(test.span);
+        EXPECT_LE(loop.wakeUps() - before, test.wakeUpsWithin);
+        for (std::size_t i = 0; i < fired.size(); ++i) {
+            const auto expected = test.span / test.timers[i].first;
+            EXPECT_NEAR(fired[i], static_cast<double>(expected), 1.0 + static_cast<double>(i)) << i;
+        }
+    }
+}
+
+TEST(TimerCoalescing, NoTimerFiresEarlyOrLaterThanItsTolerance)
+{
+    ManualRunLoop loop;
+    Instant last = loop.now();
+    const Task poll = loop.every(200ms, 50ms, [&] {
+        const Duration gap = loop.now() - last;
+        EXPECT_GE(gap, 200ms - 50ms);
+        EXPECT_LE(gap, 200ms + 50ms);
+        last = loop.now();
+    });
+    const Task playhead = loop.every(250ms, 50ms, [] {});
+    const Task second = loop.every(1s, 100ms, [] {});
+    loop.advance(30s);
+}
+
+} // namespace
