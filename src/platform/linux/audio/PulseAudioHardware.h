@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/AudioHardware.h"
+#include "platform/Listeners.h"
+#include "platform/linux/audio/PulseDefaultSink.h"
+
+#include <map>
+
+namespace quillmere {
+
+/// The output devices of PulseAudio, or of PipeWire through its PulseAudio face.
+///
+/// Only the default output is followed: other devices tell no volume. Levels are whole percent,
+/// amplification above 100 % shows full, a muted device shows 0.
+class PulseAudioHardware : public AudioHardware
+{
+public:
+    explicit PulseAudioHardware(RunLoop &runLoop);
+
+    AudioDeviceID defaultOutputDevice() const override;
+    std::optional<float> volume(AudioDeviceID device, AudioProperty property) const override;
+    void setVolume(AudioDeviceID device, float level) override;
+    Task onVolumeChanged(AudioDeviceID device, AudioProperty property,
+                         std::function<void()> listener) override;
+    Task onDefaultOutputChanged(std::function<void()> listener) override;
+    Task onAvailabilityChanged(std::function<void(bool)> listener) override;
+    bool isAvailable() const override { return available_; }
+
+private:
+    struct Device {
+        AudioDeviceID id;
+        PulseSink sink;
+        pa_cvolume balance; ///< the last channel volumes that were not all silent
+        float level() const;
+    };
+
+    void connected(pa_context &context);
+    void disconnected();
+    void changed(const PulseConnection::Event &event);
+    void update(const std::optional<PulseSink> &sink);
+    std::optional<Device> describe(const std::optional<PulseSink> &sink);
+    AudioDeviceID idOf(std::uint32_t sinkIndex);
+
+    std::optional<Device> device_;
+    bool available_ = false;
+    AudioDeviceID lastID_ = 0;
+    std::map<std::uint32_t, AudioDeviceID> ids_; // by sink index, which a later sink may get again
+    Listeners<AudioDeviceID> volumeListeners_;
+    Listeners<> defaultOutputListeners_;
+    Listeners<bool> availabilityListeners_;
+    pa_context *context_ = nullptr;
+    PulseConnection connection_;
+    std::optional<PulseDefaultSink> defaultSink_;
+};
+
+} // namespace quillmere
