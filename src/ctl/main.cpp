@@ -1,0 +1,142 @@
+#include "ctl/BusJson.h"
+#include "ctl/IslandClient.h"
+#include "ctl/PropertyWatch.h"
+#include "platform/linux/core/UnixSignals.h"
+#include "platform/linux/dbus/IslandProperties.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+
+#include <cstdio>
+
+using namespace quillmere;
+
+namespace {
+
+enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2 };
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("quillmerectl", text);
+}
+
+bool print(const QByteArray &line)
+{
+    return std::printf("%s\n", line.constData()) >= 0 && std::fflush(stdout) == 0;
+}
+
+int fail(ExitCode code, const QString &text)
+{
+    std::fprintf(stderr, "quillmerectl: %s\n", qUtf8Printable(text));
+    return code;
+}
+
+int refuseUsage(const QString &text)
+{
+    return fail(WrongUsage, text + QLatin1Char('\n') + tr("Try: quillmerectl --help"));
+}
+
+QString helpText()
+{
+    QStringList properties;
+    for (const IslandProperty &property : islandProperties)
+        properties.append(property.name);
+    return tr("Talks to the Quillmere that runs in this session.\n"
+              "\n"
+              "  quillmerectl action NAME [PARAMETER]  ask for an action\n"
+              "  quillmerectl get [PROPERTY]           print a property, or all, as JSON\n"
+              "  quillmerectl watch [PROPERTY]         print it now and whenever it changes,\n"
+              "                                        one JSON object a line\n"
+              "  quillmerectl --help | --version\n"
+              "\n"
+              "Actions: show-island, toggle-island, quit.\n"
+              "Properties: %1.\n"
+              "\n"
+              "Exits with 1 if Quillmere is not running or says no, with 2 if called wrongly.")
+        .arg(properties.join(QStringLiteral(", ")));
+}
+
+int askOnce(const QDBusMessage &message, const std::function<QVariant(const QVariantList &)> &shown)
+{
+    const auto bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return fail(Failed, tr("there is no session bus"));
+    const BusReply reply = ask(bus, message);
+    if (!reply)
+        return fail(Failed, describe(reply.error()));
+    if (shown && !print(toJsonLine(shown(*reply))))
+        return Failed;
+    return Done;
+}
+
+int action(const QStringList &arguments)
+{
+    if (arguments.isEmpty() || arguments.size() > 2)
+        return refuseUsage(tr("action takes a name and at most one parameter"));
+    QVariantList parameter;
+    if (arguments.size() == 2)
+        parameter.append(toParameter(arguments.at(1)));
+    return askOnce(actionMessage(arguments.at(0), parameter), {});
+}
+
+int get(const QString &property)
+{
+    if (property.isEmpty())
+        return askOnce(getAllMessage(), &toProperties);
+    return askOnce(getMessage(property),
+                   [](const QVariantList &answer) { return answer.value(0); });
+}
+
+int watch(const QString &property)
+{
+    const auto bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return fail(Failed, tr("there is no session bus"));
+    const UnixSignals signalsEndUs([](int) { QCoreApplication::exit(Done); });
+    PropertyWatch properties(bus, property);
+    properties.onValue = [](const QString &name, const QVariant &value) {
+        if (!print(toJsonLine(QVariantMap{{name, value}})))
+            QCoreApplication::exit(Failed);
+    };
+    properties.onFailure = [](const QString &error) {
+        QCoreApplication::exit(fail(Failed, error));
+    };
+    properties.start();
+    return QCoreApplication::exec();
+}
+
+int readProperty(const QStringList &arguments, int (*command)(const QString &property))
+{
+    const QString property = arguments.value(0);
+    if (arguments.size() > 1)
+        return refuseUsage(tr("one property at a time, or all of them"));
+    if (!arguments.isEmpty() && !islandProperty(property))
+        return refuseUsage(tr("there is no property \"%1\"").arg(property));
+    return command(property);
+}
+
+int run(const QStringList &arguments)
+{
+    const QString command = arguments.value(0);
+    const QStringList rest = arguments.mid(1);
+    if (command == QLatin1StringView("action"))
+        return action(rest);
+    if (command == QLatin1StringView("get"))
+        return readProperty(rest, &get);
+    if (command == QLatin1StringView("watch"))
+        return readProperty(rest, &watch);
+    if (command == QLatin1StringView("--help"))
+        return print(helpText().toUtf8()) ? Done : Failed;
+    if (command == QLatin1StringView("--version"))
+        return print("quillmerectl " QUILLMERE_VERSION) ? Done : Failed;
+    return refuseUsage(command.isEmpty() ? tr("what shall be done?")
+                                         : tr("there is no command \"%1\"").arg(command));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    return run(QCoreApplication::arguments().mid(1));
+}
