@@ -1,0 +1,96 @@
+#pragma once
+
+#include <QLatin1StringView>
+
+#include <array>
+
+namespace quillmere {
+
+/// The keys that are pushed to the cloud store, in push order. Enumerated styles, poll intervals,
+/// account data, lock-screen details and calendar options stay on the machine on purpose.
+inline constexpr std::array syncedKeys{
+    QLatin1StringView{"syncSettingsViaICloud"},
+    QLatin1StringView{"hideInFullscreen"},
+    QLatin1StringView{"hideInMissionControl"},
+    QLatin1StringView{"hideFromScreenCapture"},
+    QLatin1StringView{"disableInFullscreen"},
+    QLatin1StringView{"hapticFeedback"},
+    QLatin1StringView{"expandNotchOnHover"},
+    QLatin1StringView{"autoCollapseDelay"},
+    QLatin1StringView{"useAccentColor"},
+    QLatin1StringView{"naturalMovement"},
+    QLatin1StringView{"islandAppearance"},
+    QLatin1StringView{"glassTransparency"},
+    QLatin1StringView{"swipeToToggleOpen"},
+    QLatin1StringView{"swipeToCycleActivity"},
+    QLatin1StringView{"swipeToDismissActivity"},
+    QLatin1StringView{"swipeToSkipMedia"},
+    QLatin1StringView{"showBatteryHUD"},
+    QLatin1StringView{"batteryHUDDuration"},
+    QLatin1StringView{"notifyOnLowPowerMode"},
+    QLatin1StringView{"warnOnLowBattery"},
+    QLatin1StringView{"lowBatteryThreshold"},
+    QLatin1StringView{"playSoundOnLowBattery"},
+    QLatin1StringView{"hideBatteryLabel"},
+    QLatin1StringView{"hideBatteryPercentage"},
+    QLatin1StringView{"showFocusHUD"},
+    QLatin1StringView{"focusHUDDuration"},
+    QLatin1StringView{"playSoundOnSleepFocus"},
+    QLatin1StringView{"hideFocusLabel"},
+    QLatin1StringView{"showVolumeHUD"},
+    QLatin1StringView{"volumeHUDDuration"},
+    QLatin1StringView{"showVolumePercentage"},
+    QLatin1StringView{"soundHUDsEnabled"},
+    QLatin1StringView{"soundDisableOvershoot"},
+    QLatin1StringView{"volumeScrollEnabled"},
+    QLatin1StringView{"showBrightnessHUD"},
+    QLatin1StringView{"brightnessHUDDuration"},
+    QLatin1StringView{"showBrightnessPercentage"},
+    QLatin1StringView{"displayHUDsEnabled"},
+    QLatin1StringView{"displayDisableOvershoot"},
+    QLatin1StringView{"showEmailHUD"},
+    QLatin1StringView{"emailHUDDuration"},
+    QLatin1StringView{"showDiscordHUD"},
+    QLatin1StringView{"discordHUDDuration"},
+    QLatin1StringView{"showSlackHUD"},
+    QLatin1StringView{"slackHUDDuration"},
+    QLatin1StringView{"showGmailHUD"},
+    QLatin1StringView{"showGoogleCalendarHUD"},
+    QLatin1StringView{"showBluetoothHUD"},
+    QLatin1StringView{"bluetoothHUDDuration"},
+    QLatin1StringView{"connectivityUse3DModels"},
+    QLatin1StringView{"showMediaHUD"},
+    QLatin1StringView{"showCalendarHUD"},
+    QLatin1StringView{"showWeatherHUD"},
+    QLatin1StringView{"weatherUseFahrenheit"},
+    QLatin1StringView{"showLockScreenHUD"},
+    QLatin1StringView{"showFileTray"},
+    QLatin1StringView{"fileTrayMaxItems"},
+    QLatin1StringView{"enableClipboardHistory"},
+    QLatin1StringView{"enablePomodoro"},
+    QLatin1StringView{"pomodoroWorkMinutes"},
+    QLatin1StringView{"pomodoroShortBreakMinutes"},
+    QLatin1StringView{"pomodoroLongBreakMinutes"},
+    QLatin1StringView{"enableCameraMirror"},
+    QLatin1StringView{"showNetworkSpeed"},
+    QLatin1StringView{"showSystemMonitor"},
+    QLatin1StringView{"enableClaudeCode"},
+    QLatin1StringView{"enableAppShortcuts"},
+    QLatin1StringView{"enableQuickNotes"},
+    QLatin1StringView{"enableBookmarks"},
+    QLatin1StringView{"enableCountdownTimer"},
+    QLatin1StringView{"enableReminders"},
+    QLatin1StringView{"enableDynamicColors"},
+};
+static_assert(syncedKeys.size() == 72);
+
+/// What the cloud may never change: these describe the machine, not the person.
+inline constexpr std::array deviceLocalKeys{
+    QLatin1StringView{"notchWidth"},
+    QLatin1StringView{"notchHeight"},
+    QLatin1StringView{"displaySelection"},
+    QLatin1StringView{"launchAtLogin"},
+    QLatin1StringView{"hasCompletedOnboarding"},
+};
+
+} // namespace quillmere
