@@ -1,0 +1,23 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+namespace quillmere {
+
+/// The atoms the window code speaks in.
+struct X11Atoms {
+    xcb_atom_t activeWindow = XCB_ATOM_NONE;
+    xcb_atom_t clientListStacking = XCB_ATOM_NONE;
+    xcb_atom_t windowState = XCB_ATOM_NONE;
+    xcb_atom_t fullscreen = XCB_ATOM_NONE;
+    xcb_atom_t compositor = XCB_ATOM_NONE; ///< owned by whoever composites the screen
+    xcb_atom_t windowType = XCB_ATOM_NONE;
+    xcb_atom_t dock = XCB_ATOM_NONE;
+    xcb_atom_t comptonShadow = XCB_ATOM_NONE;
+    xcb_atom_t frameExtents = XCB_ATOM_NONE;
+
+    /// Waits for the server once; for start-up.
+    static X11Atoms intern(xcb_connection_t *connection, int screenNumber);
+};
+
+} // namespace quillmere

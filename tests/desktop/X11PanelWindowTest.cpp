@@ -1,0 +1,458 @@
+#include "platform/linux/window/X11PanelWindow.h"
+
+#include "island/FloatingPanel.h"
+#include "island/NotchGeometry.h"
+#include "platform/linux/core/QtRunLoop.h"
+#include "platform/linux/window/PanelShape.h"
+#include "platform/linux/window/QtScreens.h"
+#include "platform/linux/window/X11GlobalEvents.h"
+#include "support/SettingsFixture.h"
+#include "support/X11Inspector.h"
+#include "support/XServer.h"
+
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QRasterWindow>
+#include <QScreen>
+
+#include <gtest/gtest.h>
+
+namespace quillmere {
+namespace {
+
+const QString monitorA = QStringLiteral("QM-A");
+const QString monitorB = QStringLiteral("QM-B");
+const QRect areaA(0, 0, 1512, 982);
+const QRect areaB(1512, 0, 1920, 1080);
+const QRect wholeServer(0, 0, 3432, 1080);
+
+template <class Condition>
+bool eventually(Condition condition)
+{
+    QDeadlineTimer deadline(15'000);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
+        QThread::msleep(2);
+    }
+    return true;
+}
+
+/// A virtual display with two monitors and a window manager, and the application on it.
+class Desktop : public ::testing::Environment
+{
+public:
+    void SetUp() override
+    {
+        qputenv("QT_QPA_PLATFORM", "xcb");
+        server.emplace();
+        windowManager.emplace(
+            QStringLiteral("openbox"),
+            QStringList{QStringLiteral("--config-file"), QStringLiteral("/dev/null")});
+        static int argc = 1;
+        static char name[] = "X11PanelWindowTest";
+        static char *argv[] = {name, nullptr};
+        application.emplace(argc, argv);
+        X11Inspector inspector;
+        if (!eventually([&] {
+                return !inspector.property(inspector.root(), "_NET_SUPPORTING_WM_CHECK").empty();
+            }))
+            throw std::runtime_error("no window manager");
+    }
+    void TearDown() override
+    {
+        application.reset();
+        windowManager.reset();
+        server.reset();
+    }
+
+    std::optional<XServer> server;
+    std::optional<ChildProgram> windowManager;
+    std::optional<QGuiApplication> application;
+};
+
+[[maybe_unused]] const auto *desktop = ::testing::AddGlobalTestEnvironment(new Desktop);
+
+class Canvas : public QRasterWindow
+{
+public:
+    int presses = 0;
+
+private:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.fillRect(QRect(QPoint(), size()), Qt::transparent);
+    }
+    void mousePressEvent(QMouseEvent *) override { ++presses; }
+};
+
+class X11PanelWindowTest : public ::testing::Test, public SettingsFixture
+{
+protected:
+    X11PanelWindowTest()
+    {
+        changes = screens.onParametersChanged([this] {
+            if (panel)
+                panel->displaysDidChange();
+        });
+    }
+    void TearDown() override
+    {
+        panel.reset();
+        for (const auto window : windows)
+            inspector.closeWindow(window);
+    }
+
+    void SetUp() override
+    {
+        resetMonitors();
+        ASSERT_TRUE(eventually([&] { return screens.screens().size() == 2; }));
+    }
+
+    /// Back to the two monitors. Between removing and adding Qt has to see that one is gone: of one
+    /// that changes under its name it keeps the old size.
+    static void resetMonitors()
+    {
+        XServer::removeMonitor(monitorA);
+        XServer::removeMonitor(monitorB);
+        eventually(
+            [] { return QGuiApplication::primaryScreen()->name() == QLatin1StringView("screen"); });
+        XServer::setMonitor(u'*' + monitorA, areaA, QStringLiteral("screen"));
+        XServer::setMonitor(monitorB, areaB, QStringLiteral("none"));
+    }
+
+    void show()
+    {
+        panel.emplace(runLoop, screens, globalEvents, notifications, window, settings);
+        panel->displaysDidChange();
+        ASSERT_TRUE(eventually([&] { return inspector.isViewable(id()); }));
+    }
+
+    xcb_window_t id() const { return static_cast<xcb_window_t>(canvas.winId()); }
+    double scale() const { return canvas.devicePixelRatio(); }
+    QRect nativeCanvas(const QRect &monitor) const
+    {
+        const QSize size = canvasSize * scale();
+        return {QPoint(monitor.x() + (monitor.width() - size.width()) / 2, monitor.y()), size};
+    }
+    bool hangsOn(const QRect &monitor)
+    {
+        return eventually([&] {
+            return inspector.isViewable(id()) && inspector.geometry(id()) == nativeCanvas(monitor);
+        });
+    }
+    /// The island's frame in pixels of the canvas.
+    QRect island() const
+    {
+        const QSizeF size = panel->size();
+        return QRectF((canvasSize.width() - size.width()) / 2 * scale(), 0, size.width() * scale(),
+                      size.height() * scale())
+            .toAlignedRect();
+    }
+    bool takesInputIn(const QRegion &region)
+    {
+        return eventually([&] { return inspector.shape(id(), XCB_SHAPE_SK_INPUT) == region; });
+    }
+    bool isOnTop()
+    {
+        return eventually([&] { return inspector.stack().back() == id(); });
+    }
+
+    xcb_window_t openWindow(const QRect &area, bool fullscreen = false)
+    {
+        windows.push_back(inspector.openWindow(area, fullscreen));
+        const auto opened = windows.back();
+        EXPECT_TRUE(eventually([&] { return inspector.activeWindow() == opened; }));
+        return opened;
+    }
+    static void movePointer(QPoint native)
+    {
+        XServer::run(QStringLiteral("xdotool"),
+                     {QStringLiteral("mousemove"), QString::number(native.x()),
+                      QString::number(native.y())});
+    }
+    static void click(QPoint native, int button = 1)
+    {
+        movePointer(native);
+        XServer::run(QStringLiteral("xdotool"), {QStringLiteral("click"), QString::number(button)});
+    }
+
+    QtRunLoop runLoop;
+    X11Inspector inspector;
+    X11Observer observer;
+    X11GlobalEvents globalEvents{observer.connection()};
+    QtScreens screens;
+    Canvas canvas;
+    X11PanelWindow window{canvas, observer};
+    std::optional<FloatingPanel> panel;
+    Task changes;
+    std::vector<xcb_window_t> windows;
+};
+
+TEST_F(X11PanelWindowTest, IsAnUnmanagedWindowWithoutShadow)
+{
+    show();
+    const auto stack = inspector.stack();
+    EXPECT_NE(std::find(stack.begin(), stack.end(), id()), stack.end()) << "in a frame";
+    EXPECT_EQ(inspector.property(id(), "_NET_WM_WINDOW_TYPE"),
+              std::vector{inspector.atom("_NET_WM_WINDOW_TYPE_DOCK")});
+    EXPECT_EQ(inspector.property(id(), "_COMPTON_SHADOW"), std::vector<std::uint32_t>{0});
+    EXPECT_EQ(inspector.property(id(), "_GTK_FRAME_EXTENTS").size(), 4U);
+    EXPECT_EQ(canvas.format().alphaBufferSize(), 8);
+    EXPECT_FALSE(window.capabilities().hidesFromScreenCapture);
+    EXPECT_FALSE(window.capabilities().hidesInOverview);
+    const auto clients = inspector.property(inspector.root(), "_NET_CLIENT_LIST");
+    EXPECT_EQ(std::find(clients.begin(), clients.end(), id()), clients.end()) << "in the taskbar";
+}
+
+TEST_F(X11PanelWindowTest, FollowsTheMainMonitorThroughHotplug)
+{
+    show();
+    EXPECT_TRUE(hangsOn(areaA));
+    EXPECT_TRUE(takesInputIn(island()));
+
+    XServer::setMonitor(u'*' + monitorB, areaB, QStringLiteral("none"));
+    EXPECT_TRUE(hangsOn(areaB));
+    EXPECT_TRUE(takesInputIn(island()));
+
+    XServer::removeMonitor(monitorB);
+    EXPECT_TRUE(hangsOn(areaA));
+
+    const QRect smaller(0, 0, 1600, 900);
+    XServer::removeMonitor(monitorA);
+    EXPECT_TRUE(hangsOn(wholeServer));
+    XServer::setMonitor(monitorA, smaller, QStringLiteral("screen"));
+    EXPECT_TRUE(hangsOn(smaller));
+    resetMonitors();
+    EXPECT_TRUE(hangsOn(areaA));
+}
+
+TEST_F(X11PanelWindowTest, ComesBackAfterTheLastMonitorWent)
+{
+    show();
+    panel->setSize({300, 44});
+    XServer::removeMonitor(monitorB);
+    XServer::removeMonitor(monitorA);
+    XServer::run(QStringLiteral("xrandr"),
+                 {QStringLiteral("--fb"), QStringLiteral("3432x1080"), QStringLiteral("--output"),
+                  QStringLiteral("screen"), QStringLiteral("--off")});
+    int quiet = 0;
+    eventually([&] { return ++quiet > 50; });
+
+    XServer::run(QStringLiteral("xrandr"),
+                 {QStringLiteral("--output"), QStringLiteral("screen"), QStringLiteral("--auto")});
+    EXPECT_TRUE(hangsOn(wholeServer));
+    resetMonitors();
+    EXPECT_TRUE(hangsOn(areaA));
+    EXPECT_EQ(panel->size(), QSizeF(300, 44));
+    EXPECT_TRUE(takesInputIn(island()));
+    click(nativeCanvas(areaA).topLeft() + island().center());
+    EXPECT_TRUE(eventually([&] { return canvas.presses == 1; }));
+}
+
+TEST_F(X11PanelWindowTest, OnlyTheIslandTakesInput)
+{
+    show();
+    for (const QSizeF size : {QSizeF(126, 32), QSizeF(300, 44), QSizeF(600, 220)}) {
+        panel->setSize(size);
+        EXPECT_TRUE(takesInputIn(island())) << size.width();
+    }
+    window.setVisible(false);
+    EXPECT_TRUE(takesInputIn({}));
+    EXPECT_TRUE(eventually([&] { return !inspector.isViewable(id()); }));
+
+    // A surface made anew, as Qt does now and then, knows nothing of the old one's shape.
+    window.setVisible(true);
+    canvas.destroy();
+    canvas.show();
+    EXPECT_TRUE(takesInputIn(island()));
+    EXPECT_EQ(inspector.property(id(), "_COMPTON_SHADOW"), std::vector<std::uint32_t>{0});
+}
+
+TEST_F(X11PanelWindowTest, StaysAboveAFullScreenWindowAndKnowsOfIt)
+{
+    settings.hideInFullscreen.set(false);
+    show();
+    const auto client = openWindow({200, 200, 400, 300});
+    EXPECT_TRUE(isOnTop());
+    EXPECT_FALSE(window.isCoveredByFullscreen());
+
+    inspector.setFullscreen(client, true);
+    EXPECT_TRUE(eventually([&] { return window.isCoveredByFullscreen(); }));
+    EXPECT_EQ(inspector.geometry(client), areaA);
+    EXPECT_TRUE(isOnTop());
+
+    // The monitor beside it is not covered.
+    settings.displaySelection.set(DisplaySelection::Active);
+    movePointer({1600, 500});
+    panel->displaysDidChange();
+    EXPECT_TRUE(hangsOn(areaB));
+    EXPECT_FALSE(window.isCoveredByFullscreen());
+    movePointer({100, 500});
+    panel->displaysDidChange();
+    EXPECT_TRUE(window.isCoveredByFullscreen());
+
+    openWindow({300, 300, 200, 200});
+    EXPECT_TRUE(eventually([&] { return !window.isCoveredByFullscreen(); }));
+    EXPECT_TRUE(isOnTop());
+}
+
+TEST_F(X11PanelWindowTest, ComesToTheFrontAgainWhenWindowsAreRestacked)
+{
+    show();
+    windows.push_back(inspector.openWindow(areaA, false, false));
+    EXPECT_TRUE(eventually([&] { return inspector.stack().back() == windows.front(); }));
+    openWindow({200, 200, 400, 300});
+    EXPECT_TRUE(isOnTop());
+}
+
+TEST_F(X11PanelWindowTest, HidesThePillOverAFullScreenWindowUntilItEnds)
+{
+    show();
+    const auto client = openWindow({200, 200, 400, 300}, true);
+    EXPECT_TRUE(eventually([&] { return !inspector.isViewable(id()); }));
+    panel->setIdle(false);
+    EXPECT_TRUE(eventually([&] { return inspector.isViewable(id()); }));
+    EXPECT_TRUE(isOnTop());
+    panel->setIdle(true);
+    EXPECT_TRUE(eventually([&] { return !inspector.isViewable(id()); }));
+    inspector.closeWindow(client);
+    EXPECT_TRUE(eventually([&] { return inspector.isViewable(id()); }));
+    EXPECT_TRUE(takesInputIn(island()));
+}
+
+TEST_F(X11PanelWindowTest, ClicksNeverTakeTheFocus)
+{
+    show();
+    const auto client = openWindow({200, 200, 400, 300});
+    EXPECT_TRUE(eventually([&] { return inspector.focus() == client; }));
+    click(nativeCanvas(areaA).topLeft() + island().center());
+    EXPECT_TRUE(eventually([&] { return canvas.presses == 1; }));
+    EXPECT_EQ(inspector.activeWindow(), client);
+    EXPECT_EQ(inspector.focus(), client);
+}
+
+TEST_F(X11PanelWindowTest, MasksItselfWhileNothingComposites)
+{
+    show();
+    const QRegion everything(QRect(QPoint(), canvasSize * scale()));
+    const auto bounding = [&] { return inspector.shape(id(), XCB_SHAPE_SK_BOUNDING); };
+    EXPECT_TRUE(eventually([&] { return bounding() == silhouette(island(), scale()); }));
+    panel->setSize({300, 44});
+    EXPECT_TRUE(eventually([&] { return bounding() == silhouette(island(), scale()); }));
+
+    ChildProgram compositor(QStringLiteral("picom"),
+                            {QStringLiteral("--backend"), QStringLiteral("xrender"),
+                             QStringLiteral("--config"), QStringLiteral("/dev/null")});
+    EXPECT_TRUE(eventually([&] { return bounding() == everything; }));
+    EXPECT_TRUE(takesInputIn(island()));
+    compositor.kill();
+    EXPECT_TRUE(eventually([&] { return bounding() == silhouette(island(), scale()); }));
+}
+
+TEST_F(X11PanelWindowTest, GlobalClicksAreThoseOutsideOurWindows)
+{
+    show();
+    openWindow({200, 200, 400, 300});
+    std::vector<QPointF> heard;
+    auto listening =
+        globalEvents.onLeftMouseDown([&](QPointF position) { heard.push_back(position); });
+    const auto hears = [&](QPoint native, int button, QPointF position) {
+        const auto before = heard.size();
+        click(native, button);
+        return eventually([&] { return heard.size() > before; }) && heard.back() == position;
+    };
+
+    const QPoint origin = nativeCanvas(areaA).topLeft();
+    click(origin + island().center());
+    EXPECT_TRUE(eventually([&] { return canvas.presses == 1; }));
+    click({900, 800}, 3);
+    // The canvas is there, the island is not.
+    EXPECT_TRUE(hears(origin + QPoint(5, 5), 1, QPointF(origin + QPoint(5, 5)) / scale()));
+    EXPECT_TRUE(hears({300, 300}, 1, QPointF(300, 300) / scale()));
+    EXPECT_TRUE(hears({1612, 60}, 1, QPointF(1512 + 100 / scale(), 60 / scale())));
+    EXPECT_EQ(heard.size(), 3U) << "also of our own window, or of another button";
+    EXPECT_EQ(canvas.presses, 1);
+
+    const auto rightHanded = inspector.buttonMap();
+    auto leftHanded = rightHanded;
+    std::swap(leftHanded.at(0), leftHanded.at(2));
+    inspector.setButtonMap(leftHanded);
+    EXPECT_TRUE(hears({310, 300}, 3, QPointF(310, 300) / scale()));
+    click({300, 300}, 1);
+    inspector.setButtonMap(rightHanded);
+    EXPECT_TRUE(hears({320, 300}, 1, QPointF(320, 300) / scale()));
+    EXPECT_EQ(heard.size(), 5U) << "the right button of a left-handed mouse";
+}
+
+TEST_F(X11PanelWindowTest, OneChangeOfTheScreensIsToldOnce)
+{
+    int told = 0;
+    auto listening = screens.onParametersChanged([&] { ++told; });
+    auto *primary = QGuiApplication::primaryScreen();
+    Q_EMIT primary->geometryChanged(primary->geometry());
+    Q_EMIT primary->logicalDotsPerInchChanged(96);
+    Q_EMIT primary->geometryChanged(primary->geometry());
+    EXPECT_EQ(told, 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told, 1);
+}
+
+TEST(X11ObserverTest, FollowsTheFullScreenWindowWithoutAWindowManager)
+{
+    const XServer other(QStringLiteral("640x480x24"));
+    X11Inspector manager;
+    X11Observer observer;
+    int told = 0;
+    auto listening = observer.onFullscreenWindowChanged([&] { ++told; });
+    const auto is = [&](std::optional<QRect> place) {
+        return eventually([&] { return observer.fullscreenWindow() == place; });
+    };
+    const QRect half(0, 0, 320, 480);
+    const QRect whole(0, 0, 640, 480);
+
+    const auto plain = manager.openWindow(whole);
+    const auto video = manager.openWindow(half, true);
+    manager.setActiveWindow(video);
+    EXPECT_TRUE(is(half));
+    manager.moveWindow(video, whole);
+    EXPECT_TRUE(is(whole));
+    manager.setActiveWindow(plain);
+    EXPECT_TRUE(is(std::nullopt));
+    manager.setActiveWindow(video);
+    EXPECT_TRUE(is(whole));
+    manager.closeWindow(video);
+    manager.setActiveWindow(XCB_WINDOW_NONE);
+    EXPECT_TRUE(is(std::nullopt));
+    EXPECT_EQ(told, 5);
+
+    // A window that is gone before it can be looked at.
+    manager.setActiveWindow(video);
+    manager.setActiveWindow(plain);
+    EXPECT_TRUE(is(std::nullopt));
+}
+
+TEST(XcbConnectionTest, OutlivesItsServer)
+{
+    XServer other(QStringLiteral("640x480x24"));
+    X11Observer observer;
+    X11GlobalEvents events(observer.connection());
+    auto listening = events.onLeftMouseDown([](QPointF) {});
+    ASSERT_TRUE(observer.connection().isOpen());
+    other.kill();
+    EXPECT_TRUE(eventually([&] { return !observer.connection().isOpen(); }));
+    listening.cancel();
+    listening = events.onLeftMouseDown([](QPointF) {});
+    observer.connection().flush();
+
+    X11Observer none;
+    EXPECT_FALSE(none.connection().isOpen());
+    EXPECT_TRUE(none.isComposited());
+}
+
+} // namespace
+} // namespace quillmere
