@@ -1,0 +1,159 @@
+#include "views/Glyphs.h"
+
+#include "platform/Symbols.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+#include <QPainter>
+#include <QStandardPaths>
+#include <QSvgRenderer>
+
+#include <algorithm>
+#include <array>
+
+namespace quillmere {
+
+namespace {
+
+struct GlyphName {
+    QLatin1StringView symbol;
+    QLatin1StringView icon; ///< category/name, without the "-symbolic"
+};
+
+constexpr std::array glyphNames{
+    GlyphName{symbols::speakerSlash, QLatin1StringView{"status/audio-volume-muted"}},
+    GlyphName{symbols::speakerWave1, QLatin1StringView{"status/audio-volume-low"}},
+    GlyphName{symbols::speakerWave2, QLatin1StringView{"status/audio-volume-medium"}},
+    GlyphName{symbols::speakerWave3, QLatin1StringView{"status/audio-volume-high"}},
+    GlyphName{symbols::sunMax, QLatin1StringView{"status/display-brightness"}},
+    GlyphName{symbols::battery25, QLatin1StringView{"status/battery-level-20"}},
+    GlyphName{symbols::island, QLatin1StringView{"status/island"}},
+};
+
+constexpr int imageCacheKiB = 512;
+constexpr qint64 largestIcon = 262'144; // bytes
+constexpr int largestSize = 1024;
+constexpr qsizetype mostReports = 64;
+
+QString iconOf(const QString &symbol)
+{
+    const auto found = std::ranges::find(glyphNames, symbol, &GlyphName::symbol);
+    return found == glyphNames.end() ? QString() : QString(found->icon);
+}
+
+QStringList themeDirs()
+{
+    QStringList dirs{QStringLiteral(":/icons/quillmere/scalable")};
+    const auto dataDirs = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
+    for (const QString &dir : dataDirs)
+        for (const auto kind : {QLatin1StringView("scalable"), QLatin1StringView("symbolic")})
+            dirs.append(dir + QStringLiteral("/icons/Adwaita/") + kind);
+    return dirs;
+}
+
+void tintWith(QImage &image, const QColor &tint)
+{
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), tint);
+}
+
+QImage drawn(const QByteArray &svg, int size, const QColor &tint)
+{
+    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QSvgRenderer renderer(svg);
+    if (!renderer.isValid())
+        return {};
+    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+    QPainter painter(&image);
+    renderer.render(&painter);
+    painter.end();
+    tintWith(image, tint);
+    return image;
+}
+
+QImage placeholder(int size, const QColor &tint)
+{
+    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double unit = size / 16.0;
+    painter.setPen(QPen(tint, 1.5 * unit, Qt::DashLine));
+    painter.drawRoundedRect(QRectF(2 * unit, 2 * unit, 12 * unit, 12 * unit), 3 * unit, 3 * unit);
+    return image;
+}
+
+} // namespace
+
+Glyphs::Glyphs()
+    : Glyphs(themeDirs())
+{
+}
+
+Glyphs::Glyphs(QStringList iconDirs)
+    : iconDirs_(std::move(iconDirs))
+    , images_(imageCacheKiB)
+{
+}
+
+Glyphs &Glyphs::shared()
+{
+    static Glyphs glyphs;
+    return glyphs;
+}
+
+QImage Glyphs::image(const QString &symbol, int size, const QColor &tint)
+{
+    const int side = std::clamp(size, 1, largestSize);
+    const QString key = symbol + u'\n' + QString::number(side) + u'\n' + tint.name(QColor::HexArgb);
+    if (const QImage *known = images_.object(key))
+        return *known;
+
+    QImage image = drawn(source(symbol), side, tint);
+    if (image.isNull()) {
+        reportMissing(symbol);
+        image = placeholder(side, tint);
+    }
+    images_.insert(key, new QImage(image), image.sizeInBytes() / 1024 + 1);
+    return image;
+}
+
+bool Glyphs::contains(const QString &symbol)
+{
+    return QSvgRenderer(source(symbol)).isValid();
+}
+
+QByteArray Glyphs::source(const QString &symbol)
+{
+    if (const auto known = sources_.constFind(symbol); known != sources_.cend())
+        return *known;
+    const QString icon = iconOf(symbol);
+    if (icon.isEmpty())
+        return {};
+    QFile file(filePath(icon));
+    QByteArray svg = file.open(QIODevice::ReadOnly) ? file.read(largestIcon) : QByteArray();
+    sources_.insert(symbol, svg);
+    return svg;
+}
+
+QString Glyphs::filePath(const QString &icon) const
+{
+    for (const QString &dir : iconDirs_) {
+        QString path = dir + u'/' + icon + QStringLiteral("-symbolic.svg");
+        if (QFile::exists(path))
+            return path;
+    }
+    return {};
+}
+
+void Glyphs::reportMissing(const QString &symbol)
+{
+    if (reported_.contains(symbol) || reported_.size() >= mostReports)
+        return;
+    reported_.insert(symbol);
+    qWarning("[Glyphs] no glyph for the symbol \"%ls\"", qUtf16Printable(symbol.left(80)));
+}
+
+} // namespace quillmere

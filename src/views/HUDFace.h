@@ -1,0 +1,71 @@
+#pragma once
+
+#include "island/HUDContent.h"
+#include "views/HUDLook.h"
+
+#include <QColor>
+#include <QImage>
+#include <QList>
+#include <QObject>
+#include <QSizeF>
+#include <QtQml/qqmlregistration.h>
+
+namespace quillmere {
+
+namespace HUDLayout {
+Q_NAMESPACE
+QML_ELEMENT
+enum Kind { None, Level, Battery, Message };
+Q_ENUM_NS(Kind)
+} // namespace HUDLayout
+
+/// What is drawn for one HUD: everything decided, nothing left to the scene but to show it.
+class HUDFace
+{
+    Q_GADGET
+    QML_VALUE_TYPE(hudFace)
+    Q_PROPERTY(int layout READ layoutNumber FINAL)
+    Q_PROPERTY(QSizeF size MEMBER size FINAL)
+    Q_PROPERTY(QString symbol MEMBER symbol FINAL)
+    Q_PROPERTY(double symbolSize MEMBER symbolSize FINAL)
+    Q_PROPERTY(QImage picture MEMBER picture FINAL)
+    Q_PROPERTY(bool hasPicture READ hasPicture FINAL)
+    Q_PROPERTY(QString title MEMBER title FINAL)
+    Q_PROPERTY(QString subtitle MEMBER subtitle FINAL)
+    Q_PROPERTY(double level MEMBER level FINAL)
+    Q_PROPERTY(int levelAnimation MEMBER levelAnimation FINAL)
+    Q_PROPERTY(QString figures MEMBER figures FINAL)
+    Q_PROPERTY(QString label MEMBER label FINAL)
+    Q_PROPERTY(QList<QColor> barColors MEMBER barColors FINAL)
+    Q_PROPERTY(bool colorsFollowTrack MEMBER colorsFollowTrack FINAL)
+    Q_PROPERTY(bool glow MEMBER glow FINAL)
+    Q_PROPERTY(QColor accent MEMBER accent FINAL)
+    Q_PROPERTY(QString accessibleText MEMBER accessibleText FINAL)
+
+public:
+    int layoutNumber() const { return layout; } // compiled scenes take a value type's numbers only
+    bool hasPicture() const { return !picture.isNull(); }
+    bool operator==(const HUDFace &) const = default;
+
+    HUDLayout::Kind layout = HUDLayout::None;
+    QSizeF size; ///< of the island that shows it
+    QString symbol;
+    double symbolSize = 20; ///< side of the glyph's box
+    QImage picture;
+    QString title;
+    QString subtitle;
+    double level = 0;       ///< 0..1
+    int levelAnimation = 0; ///< ms the bar takes to a new level; 0 = it jumps
+    QString figures;        ///< number at the end of the line; empty = none
+    QString label;          ///< word at the end of the line, in place of the number; empty = none
+    QList<QColor> barColors{Qt::white};
+    bool colorsFollowTrack = false;
+    bool glow = false;
+    QColor accent{Qt::white};
+    QString accessibleText;
+};
+
+/// `accent` is the desktop's accent colour.
+HUDFace hudFace(const HUDContent &content, const HUDLook &look, const QColor &accent);
+
+} // namespace quillmere

@@ -1,0 +1,84 @@
+#include "views/IslandWindow.h"
+
+#include "views/IslandModel.h"
+
+#include <QAccessible>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+
+// Linked statically, nothing else would pull in the module's types, files and compiled scenes.
+void qml_register_types_Quillmere();
+
+static void initializeModule()
+{
+    qml_register_types_Quillmere();
+    Q_INIT_RESOURCE(qmake_Quillmere);
+    Q_INIT_RESOURCE(qmlcache_quillmere_views);
+    Q_INIT_RESOURCE(quillmere_glyphs);
+}
+
+namespace quillmere {
+
+namespace {
+
+constexpr QSize canvas(720, 300);
+
+std::unique_ptr<QQuickItem> makeScene(QQmlEngine &engine, IslandModel &island)
+{
+    QQmlComponent component(
+        &engine, QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmere/IslandScene.qml")));
+    const QVariantMap properties{{QStringLiteral("island"), QVariant::fromValue(&island)}};
+    std::unique_ptr<QObject> scene;
+    if (component.isReady())
+        scene.reset(component.createWithInitialProperties(properties));
+    if (!scene)
+        qFatal("[IslandWindow] %ls", qUtf16Printable(component.errorString()));
+    return std::unique_ptr<QQuickItem>(qobject_cast<QQuickItem *>(scene.release()));
+}
+
+} // namespace
+
+IslandWindow::IslandWindow()
+    : engine_((initializeModule(), std::make_unique<QQmlEngine>()))
+{
+    setColor(Qt::transparent);
+    setTitle(QStringLiteral("Quillmere"));
+    resize(canvas);
+    connect(this, &QQuickWindow::widthChanged, this, &IslandWindow::fitScene);
+    connect(this, &QQuickWindow::heightChanged, this, &IslandWindow::fitScene);
+}
+
+IslandWindow::~IslandWindow() = default;
+
+void IslandWindow::setIsland(IslandModel *island)
+{
+    scene_.reset();
+    island_ = island;
+    if (!island_)
+        return;
+    scene_ = makeScene(*engine_, *island_);
+    scene_->setParentItem(contentItem());
+    fitScene();
+    connect(island_, &IslandModel::shownFaceChanged, this, &IslandWindow::announce);
+}
+
+void IslandWindow::fitScene()
+{
+    if (scene_)
+        scene_->setSize(size());
+}
+
+void IslandWindow::announce()
+{
+    if (!scene_ || !QAccessible::isActive() || island_->shownFace() < 0)
+        return;
+    const QString name =
+        island_->shownFace() == 0 ? QStringLiteral("firstHUD") : QStringLiteral("secondHUD");
+    if (auto *hud = scene_->findChild<QQuickItem *>(name)) {
+        QAccessibleEvent alert(hud, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+}
+
+} // namespace quillmere

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QQuickWindow>
+
+#include <memory>
+
+class QQmlEngine;
+
+namespace quillmere {
+
+class IslandModel;
+
+/// The transparent canvas with the island drawn at the middle of its top edge. What the window is
+/// on the desktop and where it stands is decided elsewhere.
+///
+/// The scene graph has to be the software one: QQuickWindow::setGraphicsApi() before the first
+/// window.
+class IslandWindow : public QQuickWindow
+{
+    Q_OBJECT
+
+public:
+    IslandWindow();
+    ~IslandWindow() override;
+
+    /// Draws this island; null: nothing any more. The model has to live until then.
+    void setIsland(IslandModel *island);
+
+private:
+    void fitScene();
+    void announce();
+
+    IslandModel *island_ = nullptr;
+    std::unique_ptr<QQmlEngine> engine_;
+    std::unique_ptr<QQuickItem> scene_;
+};
+
+} // namespace quillmere
