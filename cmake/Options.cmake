@@ -1,0 +1,13 @@
+# What every target of ours is compiled with.
+add_library(quillmere_options INTERFACE)
+target_compile_options(quillmere_options INTERFACE -Wall -Wextra -Wconversion -Werror)
+target_compile_definitions(quillmere_options INTERFACE
+  QT_NO_KEYWORDS               # GLib headers use "signals" as a name
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+  QT_NO_FOREACH QT_USE_QSTRINGBUILDER
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(QUILLMERE_SANITIZE)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_compile_options(quillmere_options INTERFACE ${sanitizers})
+  target_link_options(quillmere_options INTERFACE ${sanitizers})
+endif()

@@ -1,0 +1,49 @@
+#include "app/RemoteActions.h"
+
+#include "app/AppDelegate.h"
+#include "app/AppEvents.h"
+#include "platform/NotificationCenter.h"
+#include "platform/RemoteControl.h"
+
+#include <QDebug>
+
+namespace quillmere {
+
+RemoteActions::RemoteActions(RemoteControl &remoteControl, NotificationCenter &notificationCenter,
+                             AppDelegate &delegate)
+    : remoteControl_(remoteControl)
+    , actions_{
+          {QStringLiteral("show-island"), [&delegate] { delegate.showIsland(); }},
+          {QStringLiteral("toggle-island"),
+           [&notificationCenter] { notificationCenter.post(events::islandTapped); }},
+          {QStringLiteral("quit"), [&delegate] { delegate.terminate(); }},
+      }
+{
+    remoteControl_.setHandlers({
+        .activate = [&delegate] { delegate.showIsland(); },
+        .open =
+            [](const QStringList &uris) {
+                qWarning("[Quillmere] Nothing here opens %s", qUtf8Printable(uris.value(0)));
+            },
+        .activateAction =
+            [this](const QString &action, const QVariantList &parameter) {
+                return activate(action, parameter);
+            },
+    });
+}
+
+RemoteActions::~RemoteActions()
+{
+    remoteControl_.setHandlers({});
+}
+
+bool RemoteActions::activate(const QString &action, const QVariantList &parameter) const
+{
+    const auto found = actions_.constFind(action);
+    if (found == actions_.cend() || !parameter.isEmpty())
+        return false;
+    (*found)();
+    return true;
+}
+
+} // namespace quillmere

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QVariantList>
+
+#include <functional>
+
+namespace quillmere {
+
+class AppDelegate;
+class NotificationCenter;
+class RemoteControl;
+
+/// Answers what other programs, desktop actions and key bindings ask of the running program.
+class RemoteActions
+{
+public:
+    RemoteActions(RemoteControl &remoteControl, NotificationCenter &notificationCenter,
+                  AppDelegate &delegate);
+    ~RemoteActions();
+    RemoteActions(const RemoteActions &) = delete;
+    RemoteActions &operator=(const RemoteActions &) = delete;
+
+private:
+    bool activate(const QString &action, const QVariantList &parameter) const;
+
+    RemoteControl &remoteControl_;
+    QHash<QString, std::function<void()>> actions_;
+};
+
+} // namespace quillmere

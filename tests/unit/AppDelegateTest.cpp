@@ -1,0 +1,250 @@
+#include "app/AppEvents.h"
+#include "app/QuillmereApp.h"
+#include "island/ContentView.h"
+#include "island/FloatingPanel.h"
+#include "platform/Platform.h"
+#include "platform/RemoteControl.h"
+#include "platform/StatePublisher.h"
+#include "support/FakeAudioHardware.h"
+#include "support/FakeGlobalEvents.h"
+#include "support/FakeLoginItem.h"
+#include "support/FakePanelWindow.h"
+#include "support/FakeScreens.h"
+#include "support/ManualRunLoop.h"
+#include "support/MemoryCloudStore.h"
+#include "support/MemoryUserDefaults.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace quillmere;
+using namespace std::chrono_literals;
+
+namespace {
+
+struct RecordedState : StatePublisher {
+    void publish(const QString &property, const QVariant &value) override
+    {
+        values.insert(property, value);
+    }
+    QVariantMap hud() const { return values.value(QStringLiteral("CurrentHUD")).toMap(); }
+    QVariantMap values;
+};
+
+struct HeldRemoteControl : RemoteControl {
+    void setHandlers(RemoteRequests handlers) override { requests = std::move(handlers); }
+    RemoteRequests requests;
+};
+
+/// The whole application on fakes of the system's services.
+class AppDelegateTest : public testing::Test
+{
+protected:
+    AppDelegateTest()
+    {
+        speakers = audio.add({.mainVolume = 0.5F});
+        audio.setDefault(speakers);
+        screens.list = {FakeScreens::plain(QStringLiteral("A"), QRectF(0, 0, 1000, 800))};
+    }
+
+    void launch(Duration settled = 5s)
+    {
+        app.emplace(platform, library.path());
+        app->launch([this] { ++terminations; });
+        runLoop.advance(settled);
+    }
+
+    void setVolume(float level)
+    {
+        audio.change(speakers, AudioProperty::VirtualMainVolume, level);
+        runLoop.settle();
+    }
+
+    bool showsHUD() const
+    {
+        return app->appDelegate().contentView()->presentation() == Presentation::HUD;
+    }
+
+    ManualRunLoop runLoop;
+    NotificationCenter notifications;
+    MemoryUserDefaults defaults;
+    MemoryUserDefaults local;
+    MemoryCloudStore cloud;
+    FakeLoginItem loginItem;
+    FakeScreens screens;
+    FakePanelWindow window;
+    FakeGlobalEvents globalEvents;
+    FakeAudioHardware audio;
+    RecordedState state;
+    HeldRemoteControl remote;
+    Platform platform{runLoop, notifications, defaults,     local, cloud, loginItem,
+                      screens, window,        globalEvents, audio, state, remote};
+    QTemporaryDir library;
+    AudioDeviceID speakers = 0;
+    int terminations = 0;
+    mutable std::optional<QuillmereApp> app;
+};
+
+TEST_F(AppDelegateTest, AVolumeChangeBecomesAHUDForItsDuration)
+{
+    launch();
+    EXPECT_EQ(state.values.value(QStringLiteral("Presentation")), QStringLiteral("collapsed"));
+    setVolume(0.4F);
+    EXPECT_EQ(state.hud().value(QStringLiteral("type")), QStringLiteral("volume"));
+    EXPECT_EQ(state.hud().value(QStringLiteral("icon")), QStringLiteral("speaker.wave.2.fill"));
+    EXPECT_NEAR(state.hud().value(QStringLiteral("level")).toDouble(), 0.4, 1e-6);
+    EXPECT_EQ(state.values.value(QStringLiteral("Presentation")), QStringLiteral("hud"));
+    EXPECT_EQ(state.values.value(QStringLiteral("Frame")).toRect(), QRect(350, 0, 300, 44));
+    runLoop.advance(1499ms);
+    EXPECT_TRUE(showsHUD());
+    runLoop.advance(2ms);
+    EXPECT_FALSE(showsHUD());
+    EXPECT_TRUE(state.hud().isEmpty());
+    EXPECT_EQ(state.values.value(QStringLiteral("Frame")).toRect(), QRect(437, 0, 126, 32));
+}
+
+TEST_F(AppDelegateTest, EachGateSilencesTheVolumeHUDWithoutARestart)
+{
+    launch();
+    for (const auto &key : {QStringLiteral("showVolumeHUD"), QStringLiteral("soundHUDsEnabled")}) {
+        defaults.changeFromOutside(key, false);
+        setVolume(0.2F);
+        EXPECT_FALSE(showsHUD()) << key.toStdString();
+        defaults.changeFromOutside(key, true);
+        setVolume(0.3F);
+        EXPECT_TRUE(showsHUD()) << key.toStdString();
+        runLoop.advance(2s);
+    }
+    window.setCovered(true);
+    defaults.changeFromOutside(QStringLiteral("disableInFullscreen"), true);
+    setVolume(0.6F);
+    EXPECT_FALSE(showsHUD());
+}
+
+TEST_F(AppDelegateTest, NothingShowsInTheFirstThreeSeconds)
+{
+    launch(2900ms);
+    setVolume(0.4F);
+    EXPECT_FALSE(showsHUD());
+    runLoop.advance(100ms);
+    setVolume(0.5F);
+    EXPECT_TRUE(showsHUD());
+}
+
+TEST_F(AppDelegateTest, TheSoundServerMayComeLateAndComeBack)
+{
+    audio.setAvailable(false);
+    launch();
+    setVolume(0.1F);
+    EXPECT_FALSE(showsHUD()) << "nothing starts from an invented level";
+    for (const float level : {0.2F, 0.3F}) {
+        audio.setAvailable(true);
+        runLoop.advance(2s);
+        EXPECT_FALSE(showsHUD()) << "a server that comes is no volume change";
+        setVolume(level);
+        EXPECT_TRUE(showsHUD());
+        audio.setAvailable(false);
+        runLoop.advance(2s);
+    }
+}
+
+TEST_F(AppDelegateTest, ScrollingOverTheCollapsedIslandChangesTheVolumeAndShowsIt)
+{
+    launch();
+    FloatingPanel &panel = *app->appDelegate().floatingPanel();
+    defaults.changeFromOutside(QStringLiteral("volumeScrollEnabled"), false);
+    panel.scrollWheel({.deltaY = 10});
+    EXPECT_TRUE(audio.writes().empty());
+    defaults.changeFromOutside(QStringLiteral("volumeScrollEnabled"), true);
+    panel.scrollWheel({.deltaY = 10});
+    ASSERT_EQ(audio.writes().size(), 1U);
+    EXPECT_GT(audio.writes().front().level, 0.5F);
+    EXPECT_TRUE(showsHUD());
+}
+
+TEST_F(AppDelegateTest, SettingsOnTheLivePanelAndScreenChangesReachIt)
+{
+    launch();
+    auto &settings = app->settings();
+    settings.hideInMissionControl.set(true);
+    EXPECT_TRUE(window.behavior.testFlag(CollectionBehavior::Transient));
+    settings.hideFromScreenCapture.set(true);
+    EXPECT_EQ(window.sharing, SharingType::None);
+    settings.hideFromScreenCapture.set(false);
+    EXPECT_EQ(window.sharing, SharingType::ReadOnly);
+    screens.list = {FakeScreens::plain(QStringLiteral("B"), QRectF(1000, 100, 2000, 1000))};
+    screens.changed();
+    EXPECT_EQ(window.frame, QRectF(1937, 100, 126, 32));
+}
+
+TEST_F(AppDelegateTest, AnIslandOnACameraHousingShowsHUDsBelowIt)
+{
+    screens.list = {
+        FakeScreens::notched(QStringLiteral("eDP-1"), QRectF(0, 0, 1512, 982), 32, 656, 856)};
+    launch();
+    EXPECT_EQ(window.frame, QRectF(656, 0, 200, 32));
+    setVolume(0.4F);
+    EXPECT_EQ(window.frame.size(), QSizeF(300, 44 + 32));
+}
+
+TEST_F(AppDelegateTest, OtherProgramsReachTheActionsThatExist)
+{
+    launch();
+    int taps = 0;
+    const auto token =
+        notifications.observe(events::islandTapped, [&](const QVariantMap &) { ++taps; });
+    const auto act = [this](const char *name, const QVariantList &parameter = {}) {
+        return remote.requests.activateAction(QString::fromLatin1(name), parameter);
+    };
+    EXPECT_TRUE(act("toggle-island"));
+    EXPECT_EQ(taps, 1);
+    window.takeCalls();
+    EXPECT_TRUE(act("show-island"));
+    remote.requests.activate();
+    EXPECT_EQ(window.takeCalls(), (std::vector<std::string>{"front", "front"}));
+    EXPECT_FALSE(act("no-such-action"));
+    EXPECT_FALSE(act("quit", {1})) << "none takes a parameter";
+    EXPECT_EQ(terminations, 0);
+    EXPECT_TRUE(act("quit"));
+    EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(AppDelegateTest, AfterTerminationNothingListensAnyMore)
+{
+    launch();
+    app->terminate();
+    EXPECT_FALSE(audio.hasListeners());
+    setVolume(0.9F);
+    EXPECT_FALSE(showsHUD());
+    const QRectF before = window.frame;
+    screens.list = {FakeScreens::plain(QStringLiteral("B"), QRectF(0, 500, 400, 400))};
+    screens.changed();
+    EXPECT_EQ(window.frame, before);
+    app->terminate();
+}
+
+TEST_F(AppDelegateTest, TheDebugLogFollowsItsLocalKeysLive)
+{
+    const auto logged = [this] {
+        app->debugLogger().drain();
+        QFile file(app->debugLogger().logFile());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    launch();
+    HUDContent track;
+    track.title = QStringLiteral("Song");
+    app->hudManager().updateNowPlaying(track, 1, 10);
+    EXPECT_EQ(logged(), "");
+    local.changeFromOutside(QStringLiteral("debugLogEnabled"), true);
+    app->hudManager().updateNowPlaying(track, 1, 10);
+    EXPECT_TRUE(logged().contains("[PROGRESS] [HUDManager:"));
+    const auto size = logged().size();
+    local.changeFromOutside(QStringLiteral("debugLogCategories"),
+                            QVariantList{QStringLiteral("collapse")});
+    app->hudManager().updateNowPlaying(track, 1, 10);
+    EXPECT_EQ(logged().size(), size);
+}
+
+} // namespace
