@@ -1,0 +1,240 @@
+"""The program under test, seen only from outside: its process, its bus interface, its files, its pixels."""
+
+import json
+import os
+import re
+import signal
+import subprocess
+import threading
+import time
+from pathlib import Path
+
+from desktop import end_process, wait_until
+
+BUS_NAME = "com.quillmere.Quillmere"
+LAUNCH_MUTE = 3.0  # seconds after launch in which nothing is shown
+
+# Lines that no healthy run prints.
+_FAULTS = re.compile(
+    r"AddressSanitizer|LeakSanitizer|runtime error|Binding loop|ReferenceError|TypeError|ASSERT|"
+    r"Unable to assign|QObject::connect|QTimer|QThread|QPainter::|QBackingStore|No such slot|is not installed|"
+    r"Cannot open: qrc"
+)
+
+
+def is_black(pixel):
+    return max(pixel) <= 8
+
+
+def is_white(pixel):
+    return min(pixel) >= 200
+
+
+class Island:
+    """One start of the program on a private desktop; ends with the `with` block at the latest."""
+
+    def __init__(self, desktop, build, defaults=None):
+        self.desktop = desktop
+        self.program = Path(build) / "bin" / "quillmere"
+        self._ctl = Path(build) / "bin" / "quillmerectl"
+        self.config = desktop.dir / "config" / "quillmere"
+        self._stderr = "quillmere.log"
+        if defaults is not None:
+            self.write_defaults(defaults)
+
+    def __enter__(self):
+        self.start()
+        return self
+
+    def __exit__(self, kind, *_):
+        end_process(self.process)
+        if kind:
+            print(self.output())
+
+    def start(self):
+        self.started = time.monotonic()
+        self.process = self.desktop.spawn([str(self.program)], self._stderr)
+        wait_until(self._is_up, timeout=20, what="the island on the bus")
+        return self
+
+    def _is_up(self):
+        if self.process.poll() is not None:
+            raise AssertionError(f"the program ended with {self.process.returncode}\n{self.output()}")
+        return self.ctl("get", "Presentation", check=False).strip()
+
+    def wait_out_mute(self):
+        time.sleep(max(0.0, self.started + LAUNCH_MUTE + 0.2 - time.monotonic()))
+
+    # -- what it says ---------------------------------------------------------------------------
+
+    def ctl(self, *arguments, check=True):
+        return self.desktop.run(str(self._ctl), *arguments, check=check)
+
+    def get(self, name):
+        return json.loads(self.ctl("get", name))
+
+    def hud(self):
+        return self.get("CurrentHUD")
+
+    def wait_for_hud(self, level, timeout=3.0):
+        """Waits for the volume HUD at `level` (0...1) and returns it."""
+
+        def shown():
+            hud = self.hud()
+            return hud if hud and abs(hud["level"] - level) < 1e-6 else None
+
+        return wait_until(shown, timeout, f"a HUD at {level}")
+
+    def wait_until_collapsed(self, timeout=6.0):
+        wait_until(lambda: not self.hud() and self.get("Presentation") == "collapsed", timeout, "the collapsed island")
+
+    def watch(self):
+        return Watcher(self)
+
+    def output(self):
+        return self.desktop.log(self._stderr)
+
+    def faults(self):
+        return [line for line in self.output().splitlines() if _FAULTS.search(line)]
+
+    # -- its files ------------------------------------------------------------------------------
+
+    @property
+    def defaults_file(self):
+        return self.config / "defaults.json"
+
+    def write_defaults(self, values):
+        self.write_file(self.defaults_file, json.dumps(values))
+
+    @staticmethod
+    def write_file(path, text):
+        """Replaces the file as an editor would, whole."""
+        path.parent.mkdir(parents=True, exist_ok=True)
+        new = path.with_name(path.name + ".new")
+        new.write_text(text)
+        os.replace(new, path)
+
+    # -- its process ----------------------------------------------------------------------------
+
+    def is_alive(self):
+        return self.process.poll() is None
+
+    def wait_for_exit(self, timeout=10.0):
+        try:
+            return self.process.wait(timeout)
+        except subprocess.TimeoutExpired:
+            raise AssertionError(f"still running {timeout} s later") from None
+
+    def stop(self):
+        self.process.send_signal(signal.SIGTERM)
+        return self.wait_for_exit()
+
+    def left_behind(self):
+        """Processes of the program's session that are still there."""
+        session, found = str(self.process.pid), []
+        for entry in Path("/proc").iterdir():
+            if not entry.name.isdigit():
+                continue
+            try:
+                fields = (entry / "stat").read_text().rpartition(")")[2].split()
+                if fields[3] == session and fields[0] != "Z":
+                    found.append((entry / "cmdline").read_text().replace("\0", " "))
+            except (FileNotFoundError, ProcessLookupError):
+                continue
+        return found
+
+    def owns_name(self):
+        return "true" in self.desktop.run(
+            "gdbus", "call", "--session", "-d", "org.freedesktop.DBus", "-o", "/",
+            "-m", "org.freedesktop.DBus.NameHasOwner", BUS_NAME,
+        )  # fmt: skip
+
+    def memory(self):
+        """Sums over its mappings in KiB, e.g. Pss, Private_Clean, Private_Dirty.
+
+        Clean pages of a library are private only while nobody else uses that library: they come and
+        go with other programs. Private_Dirty is what this program alone has written.
+        """
+        text = Path(f"/proc/{self.process.pid}/smaps_rollup").read_text()
+        return {key: int(number) for key, number in re.findall(r"^(\w+):\s+(\d+) kB", text, re.M)}
+
+    def cpu_seconds(self):
+        fields = Path(f"/proc/{self.process.pid}/stat").read_text().rpartition(")")[2].split()
+        return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+    def threads(self):
+        """Of every thread that is there now: (voluntary switches, involuntary ones, ns on a processor)."""
+        found = {}
+        for task in Path(f"/proc/{self.process.pid}/task").iterdir():
+            try:
+                text = (task / "status").read_text()
+                busy = int((task / "schedstat").read_text().split()[0])
+            except (FileNotFoundError, ProcessLookupError):
+                continue  # it ended meanwhile
+            voluntary = int(re.search(r"^voluntary_ctxt_switches:\s+(\d+)", text, re.M).group(1))
+            involuntary = int(re.search(r"^nonvoluntary_ctxt_switches:\s+(\d+)", text, re.M).group(1))
+            found[task.name] = (voluntary, involuntary, busy)
+        return found
+
+    # -- its pixels -----------------------------------------------------------------------------
+
+    def shape(self, monitor, y):
+        """Where the island reaches on the row `y` (logical units below the top edge), as (left, right)
+        in logical units from the monitor's centre; None where there is no black in the middle."""
+        scale = self.desktop.scale
+        row = self.desktop.screen.grab(monitor.x, monitor.y + round(y * scale), monitor.width, 1)
+        pixels = list(row.getdata())
+        solid = [x for x, pixel in enumerate(pixels) if is_black(pixel)]
+        if not solid:
+            return None
+        centre = monitor.width / 2
+        return (solid[0] - centre) / scale, (solid[-1] + 1 - centre) / scale
+
+    def bar(self, monitor, y=22):
+        """How much of the bar on the row `y` is filled: the longest white run in logical units, 0 = none."""
+        scale = self.desktop.scale
+        left = monitor.x + monitor.width // 2 - 150 * scale
+        row = self.desktop.screen.grab(left, monitor.y + round(y * scale), 300 * scale, 1)
+        longest = run = 0
+        for pixel in row.getdata():
+            run = run + 1 if is_white(pixel) else 0
+            longest = max(longest, run)
+        return longest / scale
+
+
+class Watcher:
+    """Every change of the island's properties with the time it came at, in order. Works before the
+    program is there, and sees it come and go."""
+
+    def __init__(self, island):
+        self._changes = []
+        self._ready = threading.Event()
+        self._process = island.desktop.spawn(
+            ["gdbus", "monitor", "--session", "--dest", BUS_NAME], "monitor.log", stdout=subprocess.PIPE, text=True
+        )
+        self._thread = threading.Thread(target=self._read, daemon=True)
+        self._thread.start()
+        if not self._ready.wait(10):
+            raise AssertionError("gdbus monitor did not start")
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        end_process(self._process)
+        self._thread.join()
+        self._process.stdout.close()
+
+    def _read(self):
+        for line in self._process.stdout:
+            self._ready.set()
+            if "PropertiesChanged" in line and "com.quillmere.Island" in line:
+                self._changes.append((time.monotonic(), line.strip()))
+
+    def changes(self, name):
+        """(time, text) of the changes that tell of the property `name`."""
+        return [change for change in list(self._changes) if f"'{name}':" in change[1]]
+
+    def huds(self):
+        """(time, text) of every HUD that came; its going is no HUD."""
+        return [c for c in self.changes("CurrentHUD") if not re.search(r"'CurrentHUD': <@a\{sv\} \{\}>", c[1])]

@@ -1,0 +1,81 @@
+"""Settings files no editor would write, there when the program starts; and the debug log."""
+
+import os
+import unittest
+
+from case import DesktopTest
+
+
+def truncated(path):
+    path.write_text('{"showVolumeHUD": tr')
+
+
+def binary(path):
+    path.write_bytes(bytes(range(256)) * 20_000)
+
+
+def deep(path):
+    path.write_text('{"a":' + "[" * 2_500_000 + "]" * 2_500_000 + "}")
+
+
+def directory(path):
+    path.mkdir()
+
+
+def dangling_link(path):
+    path.symlink_to(path.with_name("nowhere") / "defaults.json")
+
+
+def wrong_types(path):
+    path.write_text('{"showVolumeHUD": "yes", "volumeHUDDuration": [], "displaySelection": 7, "islandAppearance": "?"}')
+
+
+class HostileSettingsTest(DesktopTest):
+    def test_starts_and_works(self):
+        # name: (what is in the file's place, whether it is set aside)
+        for make, set_aside in [
+            (truncated, True),
+            (binary, True),
+            (deep, True),
+            (directory, False),
+            (dangling_link, False),
+            (wrong_types, False),
+        ]:
+            with self.subTest(make.__name__):
+                self.check(make, set_aside)
+
+    def check(self, make, set_aside):
+        config = self.desktop.dir / "config" / "quillmere"
+        config.mkdir()
+        self.addCleanup(lambda: os.path.lexists(config) and self.desktop.run("rm", "-rf", str(config)))
+        make(config / "defaults.json")
+        content = (config / "defaults.json").read_bytes() if set_aside else b""
+
+        island = self.start_island()
+        island.wait_out_mute()
+        self.desktop.set_volume(44)
+        self.desktop.set_volume(40)
+        island.wait_for_hud(0.4)
+        self.assertEqual(island.stop(), 0)
+
+        aside = list(config.glob("defaults.json.unreadable-*"))
+        if set_aside:
+            self.assertEqual([path.read_bytes() for path in aside], [content])
+            self.assertIn("defaults.json", island.output())
+        self.desktop.run("rm", "-rf", str(config))
+
+
+class DebugLogTest(DesktopTest):
+    def test_off_unless_asked_for(self):
+        island = self.start_island()
+        island.write_file(island.config / "local.json", '{"debugLogEnabled": "true"}')
+        island.wait_out_mute()
+        self.desktop.set_volume(40)
+        island.wait_for_hud(0.4)
+        log = self.desktop.dir / "state" / "Logs" / "Quillmere" / "debug.log"
+        self.assertEqual(log.read_text(), "")
+        self.assertEqual(log.stat().st_mode & 0o077, 0)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,99 @@
+"""Volume changes of the real sound server, as the bus tells of the HUD."""
+
+import json
+import time
+import unittest
+
+from case import DesktopTest, IslandTest
+from desktop import wait_until
+from island import LAUNCH_MUTE
+
+
+class VolumeTest(IslandTest):
+    def test_level_and_icon(self):
+        for percent, shown, icon in [
+            (40, 0.40, "speaker.wave.2.fill"),
+            (32, 0.32, "speaker.wave.1.fill"),
+            (33, 0.33, "speaker.wave.2.fill"),
+            (66, 0.66, "speaker.wave.3.fill"),
+            (0, 0.00, "speaker.slash.fill"),
+            (100, 1.00, "speaker.wave.3.fill"),
+            (130, 1.00, "speaker.wave.3.fill"),
+        ]:
+            with self.subTest(percent=percent):
+                self.desktop.set_volume(percent)
+                hud = self.island.wait_for_hud(shown)
+                self.assertEqual((hud["type"], hud["title"], hud["icon"]), ("volume", "Volume", icon))
+                self.assertEqual(self.island.get("Presentation"), "hud")
+
+    def test_empties_again_after_its_duration(self):
+        with self.island.watch() as watcher:
+            self.desktop.set_volume(40)
+            self.island.wait_for_hud(0.4)
+            self.island.wait_until_collapsed()
+            (shown, _), (gone, _) = watcher.changes("CurrentHUD")
+        self.assertGreater(gone - shown, 1.4)
+        self.assertLess(gone - shown, 2.5)
+
+    def test_muting_reads_as_silence(self):
+        self.desktop.set_volume(70)
+        self.island.wait_for_hud(0.7)
+        self.desktop.set_muted(True)
+        self.assertEqual(self.island.wait_for_hud(0)["icon"], "speaker.slash.fill")
+        self.desktop.set_muted(False)
+        self.assertEqual(self.island.wait_for_hud(0.7)["icon"], "speaker.wave.3.fill")
+
+    def test_follows_the_default_sink(self):
+        self.addCleanup(self.desktop.pactl, "set-default-sink", "speakers")
+        self.desktop.pactl("set-sink-volume", "headphones", "23%")
+        self.desktop.pactl("set-default-sink", "headphones")
+        self.island.wait_for_hud(0.23)
+        self.desktop.set_volume(25)
+        self.island.wait_for_hud(0.25)
+        self.island.wait_until_collapsed()
+        with self.island.watch() as watcher:
+            self.desktop.pactl("set-sink-volume", "speakers", "81%")
+            time.sleep(0.5)
+            self.assertEqual(watcher.huds(), [])
+
+    def test_takes_the_switch_from_the_file(self):
+        self.addCleanup(self.island.write_defaults, {})
+        console = self.desktop.sound_console()
+        self.addCleanup(console.__exit__)
+        self.island.write_defaults({"showVolumeHUD": False, "aStrangersKey": [1, 2]})
+        level = iter(range(10, 95))
+
+        def silent():
+            console.set_volume(next(level))
+            time.sleep(0.3)
+            return not self.island.hud()
+
+        self.island.wait_until_collapsed()
+        wait_until(silent, what="the HUD to stay away", step=2)
+        with self.island.watch() as watcher:
+            for _ in range(5):
+                console.set_volume(next(level))
+                time.sleep(0.1)
+            self.assertEqual(watcher.huds(), [])
+        self.assertEqual(json.loads(self.island.defaults_file.read_text())["aStrangersKey"], [1, 2])
+
+        self.island.write_defaults({"showVolumeHUD": True})
+        wait_until(lambda: not silent(), what="the HUD to come back")
+
+
+class LaunchTest(DesktopTest):
+    def test_nothing_shows_in_the_first_seconds(self):
+        island = self.start_island()
+        with island.watch() as watcher, self.desktop.sound_console() as console:
+            percent = 0
+            while time.monotonic() < island.started + LAUNCH_MUTE + 1:
+                percent = (percent + 7) % 100
+                console.set_volume(percent)
+                time.sleep(0.05)
+            first = watcher.huds()[0][0]
+        self.assertGreaterEqual(first - island.started, LAUNCH_MUTE)
+        self.assertLess(first - island.started, LAUNCH_MUTE + 0.9)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
