@@ -94,6 +94,13 @@ void X11Observer::handle(const xcb_generic_event_t &event)
         const bool matters = fullscreenWindow_ || fullscreenQueries_ > 0;
         if (matters && as<xcb_configure_notify_event_t>(event).window == activeWindow_)
             queryFullscreen();
+    } else if (type == XCB_UNMAP_NOTIFY || type == XCB_DESTROY_NOTIFY) {
+        // Some window managers go on calling a window active that is gone.
+        if (as<xcb_unmap_notify_event_t>(event).window == activeWindow_)
+            setFullscreenWindow(std::nullopt);
+    } else if (type == XCB_MAP_NOTIFY) {
+        if (as<xcb_map_notify_event_t>(event).window == activeWindow_)
+            queryFullscreen();
     } else if (xfixesEvents_ && type == *xfixesEvents_ + XCB_XFIXES_SELECTION_NOTIFY) {
         queryCompositor();
     }
