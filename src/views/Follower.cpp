@@ -11,6 +11,10 @@ namespace {
 constexpr double restShare = 0.002;
 constexpr double leastRest = 0.0005;
 
+/// An animation shows where it will be when its frame is seen. Without it the first frame after an
+/// event would still show the state before it.
+constexpr int frameAhead = 16; // ms
+
 double eased(Follower::Curve curve, double progress)
 {
     const double left = 1 - progress;
@@ -58,6 +62,7 @@ void Follower::setEnabled(bool enabled)
 
 void Follower::retarget()
 {
+    ahead_ = state() == Running ? 0 : frameAhead; // what moves already is ahead
     stop();
     const bool rising = now_.offset < 0;
     start_ = now_;
@@ -74,7 +79,7 @@ void Follower::retarget()
         jump();
         return;
     }
-    duration_ += delay_;
+    duration_ = std::max(1, delay_ + duration_ - ahead_);
     start();
 }
 
@@ -91,10 +96,10 @@ void Follower::updateCurrentTime(int milliseconds)
         return;
     if (milliseconds >= duration_) {
         now_ = {};
-    } else if (const int elapsed = std::max(0, milliseconds - delay_); curve_ == Spring) {
+    } else if (const int elapsed = std::max(0, milliseconds + ahead_ - delay_); curve_ == Spring) {
         now_ = springAt(spring_, start_, elapsed / 1000.0);
     } else {
-        const double progress = static_cast<double>(elapsed) / (duration_ - delay_);
+        const double progress = static_cast<double>(elapsed) / (duration_ + ahead_ - delay_);
         now_.offset = start_.offset * (1 - eased(curve_, progress));
     }
     write(to_ + now_.offset);

@@ -78,6 +78,7 @@ private:
 
     SpringState start_; ///< at the time the animation last started
     SpringState now_;
+    int ahead_ = 0; ///< ms that what is shown is ahead of the animation's time
     int delay_ = 0;
     int duration_ = 0;
 };

@@ -16,7 +16,7 @@ Item {
     Follower on opacity {
         to: scene.live ? scene.island.alpha : 0
         curve: Follower.Linear
-        riseDuration: 150
+        riseDuration: 100
         fallDuration: 0
     }
 

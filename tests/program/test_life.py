@@ -45,6 +45,9 @@ class LifeTest(DesktopTest):
         self.assertEqual(again.wait(10), 0, self.desktop.log("early.log"))
 
     def test_ends_with_its_display(self):
+        # The library under us ends the process on the spot when the display goes: whatever lives on
+        # the stack of main() is then never taken down, which is no leak.
+        self.desktop.env["ASAN_OPTIONS"] = self.desktop.env.get("ASAN_OPTIONS", "") + ":detect_leaks=0"
         island = self.start_island()
         self.desktop.kill_display()
         island.wait_for_exit()

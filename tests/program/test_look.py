@@ -1,12 +1,8 @@
-"""What is really on the screen, and what the island leaves alone: the focus, and clicks beside it."""
+"""What is really on the screen, to the pixel."""
 
-import re
-import time
 import unittest
 
-from case import DesktopTest, IslandTest
-from desktop import end_process, wait_until
-from island import is_black
+from case import IslandTest
 
 
 class LookTest(IslandTest):
@@ -64,96 +60,6 @@ class LookTest(IslandTest):
 
 class LookAtTwiceTheScaleTest(LookTest):
     scale = 2
-
-
-class MannersTest(DesktopTest):
-    def start_neighbour(self):
-        """A window that fills the screen's top, has the focus, and prints every event it gets."""
-        self.desktop.spawn(["xev", "-geometry", "1512x400+0+0", "-name", "neighbour"], "xev.log")
-        wait_until(lambda: "neighbour" in self.focused(), what="the focus of the neighbour")
-
-    def focused(self):
-        return self.desktop.run("xdotool", "getactivewindow", "getwindowname", check=False)
-
-    def clicks(self):
-        return len(re.findall(r"^ButtonPress", self.desktop.log("xev.log"), re.M))
-
-    def click(self, x, y):
-        self.desktop.run("xdotool", "mousemove", str(x), str(y), "click", "1")
-        time.sleep(0.3)
-
-    def test_focus_and_clicks_stay_with_the_neighbour(self):
-        self.start_neighbour()
-        island = self.start_island()
-        island.wait_out_mute()
-        middle = self.desktop.primary.width // 2
-        self.desktop.set_volume(40)
-        island.wait_for_hud(0.4)
-        wait_until(lambda: is_black(self.desktop.screen.pixel(middle - 130, 6)), 3, "the HUD over the neighbour")
-        self.assertIn("neighbour", self.focused())
-
-        self.click(middle, 60)
-        self.assertEqual(self.clicks(), 1, "a click below the HUD belongs to the window there")
-        self.desktop.set_volume(45)
-        island.wait_for_hud(0.45)
-        self.click(middle - 140, 30)
-        self.assertEqual(self.clicks(), 1, "a click on the HUD does not fall through")
-        island.wait_until_collapsed()
-        time.sleep(0.5)
-        self.click(middle - 140, 30)
-        self.assertEqual(self.clicks(), 2, "where the HUD was, the window has its clicks back")
-        self.click(middle, 16)
-        self.assertEqual(self.clicks(), 2, "a click on the pill does not fall through")
-
-        self.assertIn("neighbour", self.focused())
-        self.assertEqual(re.findall(r"^FocusOut", self.desktop.log("xev.log"), re.M), [])
-        self.assertNotIn("quillmere", self.desktop.run("xprop", "-root", "_NET_CLIENT_LIST").lower())
-
-    def test_scrolling_over_the_pill_changes_the_volume(self):
-        self.start_neighbour()
-        island = self.start_island()
-        island.wait_out_mute()
-        self.desktop.run("xdotool", "mousemove", str(self.desktop.primary.width // 2), "16")
-        for button, direction in (("4", 1), ("5", -1)):
-            before = self.desktop.volume()
-            self.desktop.run("xdotool", "click", button)
-            wait_until(lambda: (self.desktop.volume() - before) * direction > 0, 3, "the volume to move")
-            island.wait_until_collapsed()
-        self.assertEqual(self.clicks(), 0)
-
-    def test_makes_room_for_a_film(self):
-        island = self.start_island()
-        island.wait_out_mute()
-        middle = self.desktop.primary.width // 2
-
-        def is_shown(x=middle, y=16):
-            return is_black(self.desktop.screen.pixel(x, y))
-
-        self.assertTrue(is_shown())
-        film = self.desktop.spawn(["xev", "-name", "cinema"], "film.log")
-        wait_until(lambda: not is_shown(), 5, "the pill to hide")
-        self.desktop.set_volume(40)
-        wait_until(lambda: is_shown(middle - 130, 6), 3, "the HUD over the film")
-        wait_until(lambda: not is_shown(middle - 130, 6) and not is_shown(), 5, "the island to hide again")
-        end_process(film)
-        wait_until(is_shown, 5, "the pill")
-
-    def test_is_on_every_desktop(self):
-        island = self.start_island()
-        self.desktop.run("xdotool", "set_desktop", "1")
-        island.wait_out_mute()
-        self.assertEqual(self.desktop.run("xdotool", "get_desktop").strip(), "1")
-        self.assertTrue(is_black(self.desktop.screen.pixel(self.desktop.primary.width // 2, 16)))
-
-    def test_survives_a_compositor_that_comes_and_goes(self):
-        island = self.start_island()
-        island.wait_out_mute()
-        for percent, change in [(30, self.desktop.stop_compositor), (35, self.desktop.start_compositor)]:
-            change()
-            self.desktop.set_volume(percent)
-            island.wait_for_hud(percent / 100)
-            wait_until(lambda: island.shape(self.desktop.primary, 22) == (-150, 150), 3, "the HUD on the screen")
-            island.wait_until_collapsed()
 
 
 if __name__ == "__main__":
