@@ -5,7 +5,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include <memory>
+#include <chrono>
+#include <thread>
 
 using namespace quillmere;
 
@@ -51,5 +52,22 @@ void logCategoryOn(benchmark::State &state)
     }
 }
 BENCHMARK(logCategoryOn);
+
+/// A call that finds the queue asleep and has to wake it.
+void logAfterIdle(benchmark::State &state)
+{
+    Log log;
+    log.logger.setEnabled(true);
+    const QString text = message(0.25);
+    for (auto _ : state) {
+        log.logger.drain();
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        const auto start = std::chrono::steady_clock::now();
+        log.logger.log(IslandDebugLogger::Category::Progress, text);
+        const auto end = std::chrono::steady_clock::now();
+        state.SetIterationTime(std::chrono::duration<double>(end - start).count());
+    }
+}
+BENCHMARK(logAfterIdle)->UseManualTime()->Iterations(500);
 
 } // namespace
