@@ -7,8 +7,7 @@
 
 #include <optional>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// Key-value storage shared by the machines of one user. Without a usable store every operation
 /// simply has no effect. Main thread only; nothing here waits for the disk.

@@ -6,8 +6,7 @@
 
 #include <functional>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// Pointer events anywhere on the desktop outside our own windows. Main thread only.
 class GlobalEvents

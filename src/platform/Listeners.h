@@ -7,13 +7,13 @@
 #include <memory>
 #include <vector>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// A list of callbacks with RAII registration. A callback may add or remove listeners, itself
 /// included, while the list is being notified; one removed meanwhile is not called. Main thread
 /// only.
-template <class... Args> class Listeners
+template <class... Args>
+class Listeners
 {
 public:
     using Callback = std::function<void(Args...)>;

@@ -1,7 +1,6 @@
 #pragma once
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// Starts the program when the user logs in. Errors are dropped: the stored preference is the truth
 /// and is applied again at the next start. Main thread; the work is done in the background.

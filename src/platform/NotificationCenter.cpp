@@ -1,7 +1,6 @@
 #include "platform/NotificationCenter.h"
 
-namespace quillmere
-{
+namespace quillmere {
 
 Task NotificationCenter::observe(const QString &name, Observer observer)
 {

@@ -6,8 +6,7 @@
 #include <QString>
 #include <QVariantMap>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// App-wide events by name. Observers are called in the order they registered, before post()
 /// returns. Main thread only.

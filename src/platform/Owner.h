@@ -2,8 +2,7 @@
 
 #include <memory>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// Tells posted work whether its owner still lives. A class that posts work keeps an Owner as its
 /// last member and hands it to RunLoop::post or RunLoop::background; once the object is destroyed,

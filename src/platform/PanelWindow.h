@@ -8,8 +8,7 @@
 
 #include <functional>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// How the panel takes part in the desktop.
 struct PanelStyle {

@@ -1,7 +1,6 @@
 #pragma once
 
-namespace quillmere
-{
+namespace quillmere {
 
 class AudioHardware;
 class CloudKeyValueStore;

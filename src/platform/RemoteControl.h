@@ -5,8 +5,7 @@
 
 #include <functional>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// What other programs may ask of the running one. No request runs a command or opens a file by
 /// itself; the handlers decide. Requests that come before the handlers are set wait for them.

@@ -1,7 +1,6 @@
 #include "platform/RunLoop.h"
 
-namespace quillmere
-{
+namespace quillmere {
 
 QDateTime RunLoop::date() const
 {

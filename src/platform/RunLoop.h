@@ -13,8 +13,7 @@
 #include <memory>
 #include <type_traits>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// The only source of time, timers, main-thread posts and background work.
 ///
@@ -54,7 +53,8 @@ public:
     /// Runs `work` on a background thread, then `done` with its result on the main thread if the
     /// owner still lives. `work` must not touch the owner. Leave `done` out for work without an
     /// answer.
-    template <class Work, class Done> void background(const Owner &owner, Work work, Done done)
+    template <class Work, class Done>
+    void background(const Owner &owner, Work work, Done done)
     {
         runInBackground([this, owner = owner.reference(), work = std::move(work),
                          done = std::move(done)]() mutable {

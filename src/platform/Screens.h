@@ -9,8 +9,7 @@
 
 #include <optional>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// One screen, as values: nothing here outlives a hot-unplug. Lengths are logical units, global,
 /// y growing downwards.

@@ -2,8 +2,7 @@
 
 #include <functional>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// Runs work off the main thread, one piece at a time, in the order it was handed over.
 /// Destroying the queue finishes what was handed over and then joins.

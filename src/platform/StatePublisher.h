@@ -3,8 +3,7 @@
 #include <QString>
 #include <QVariant>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// Makes the island's state readable for other programs. A value equal to the one published before
 /// announces nothing. Main thread only.

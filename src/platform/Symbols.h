@@ -4,8 +4,7 @@
 
 #include <array>
 
-namespace quillmere::symbols
-{
+namespace quillmere::symbols {
 
 /// The system-symbol names in use. Views draw a glyph for each; a name is added here when something
 /// starts to use it, and a test proves that every one of them has its glyph.

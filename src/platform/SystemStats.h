@@ -1,7 +1,6 @@
 #pragma once
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// One sample of the machine's load. GB are units of 2^30 bytes.
 struct SystemStats {

@@ -3,8 +3,7 @@
 #include <functional>
 #include <utility>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// A handle to something that goes on until it is cancelled: a delayed action, a repeating timer, a
 /// registered listener. Destroying or replacing the handle cancels it; cancelling twice is

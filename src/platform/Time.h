@@ -2,8 +2,7 @@
 
 #include <chrono>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// A span of time.
 using Duration = std::chrono::nanoseconds;

@@ -7,8 +7,7 @@
 #include <memory>
 #include <optional>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// The timers of a run loop, and the rule by which they share wake-ups. Knows no clock of its own:
 /// the loop sleeps until nextWake() and then calls fireDue().

@@ -5,8 +5,7 @@
 #include <QStringList>
 #include <QVariant>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// A flat, persistent domain of values by key. Values are bool, qint64, double, QString, and
 /// QVariantList / QVariantMap of these. Reads answer at once from memory; writes reach the disk a

@@ -7,8 +7,7 @@
 #include <thread>
 #include <vector>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// A SerialQueue whose work runs when its ManualRunLoop settles, or when it is drained.
 class ManualSerialQueue : public SerialQueue

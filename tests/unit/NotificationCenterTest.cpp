@@ -4,8 +4,7 @@
 
 using namespace quillmere;
 
-namespace
-{
+namespace {
 
 const QString tapped = QStringLiteral("tapped");
 

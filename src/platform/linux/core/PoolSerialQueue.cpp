@@ -1,7 +1,6 @@
 #include "platform/linux/core/PoolSerialQueue.h"
 
-namespace quillmere
-{
+namespace quillmere {
 
 PoolSerialQueue::PoolSerialQueue(const QString &label)
 {

@@ -5,8 +5,7 @@
 #include <QString>
 #include <QThreadPool>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// SerialQueue on a pool of one thread, which ends by itself after a while without work.
 class PoolSerialQueue : public SerialQueue

@@ -13,11 +13,9 @@
 #include <sys/timerfd.h>
 #include <unistd.h>
 
-namespace quillmere
-{
+namespace quillmere {
 
-namespace
-{
+namespace {
 
 timespec toTimespec(Instant instant)
 {

@@ -8,8 +8,7 @@
 
 #include <optional>
 
-namespace quillmere
-{
+namespace quillmere {
 
 /// RunLoop on the Qt event loop of the thread that creates it.
 ///
