@@ -9,12 +9,9 @@ Task NotificationCenter::observe(const QString &name, Observer observer)
 
 void NotificationCenter::post(const QString &name, const QVariantMap &userInfo)
 {
-    const auto found = observers_.constFind(name);
-    if (found == observers_.cend())
-        return;
-    // A copy shares the list but survives a rehash caused by an observer of a new name.
-    const auto listeners = *found;
-    listeners.notify(userInfo);
+    // value() gives a handle of its own to the list, which outlives a rehash of the table caused by
+    // an observer of a new name.
+    observers_.value(name).notify(userInfo);
 }
 
 } // namespace quillmere
