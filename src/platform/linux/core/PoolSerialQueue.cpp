@@ -10,7 +10,7 @@ PoolSerialQueue::PoolSerialQueue(const QString &label)
 
 PoolSerialQueue::~PoolSerialQueue()
 {
-    drain();
+    pool_.waitForDone();
 }
 
 void PoolSerialQueue::async(std::function<void()> work)
