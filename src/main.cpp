@@ -73,7 +73,10 @@ std::optional<int> parseCommandLine(const QStringList &arguments, QStringList &u
         return 2;
     }
     if (parser.isSet(help)) {
-        std::fputs(qUtf8Printable(parser.helpText()), stdout);
+        // There is no application object yet to take the name from.
+        std::fputs(qUtf8Printable(parser.helpText().replace(QStringLiteral("<executable_name>"),
+                                                            QStringLiteral("quillmere"))),
+                   stdout);
         return 0;
     }
     if (parser.isSet(version)) {

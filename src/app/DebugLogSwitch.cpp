@@ -28,7 +28,11 @@ void DebugLogSwitch::apply()
             ? IslandDebugLogger::categoriesFromTexts(categories.toStringList())
             : IslandDebugLogger::allCategories());
     const QVariant enabled = localDefaults_.object(enabledKey);
+    const bool wasEnabled = logger_.enabled();
     logger_.setEnabled(enabled.typeId() == QMetaType::Bool && enabled.toBool());
+    // Tells whoever just switched it on that it works, before anything happens.
+    if (!wasEnabled)
+        logger_.log(IslandDebugLogger::Category::General, QStringLiteral("LOG_ENABLED"));
 }
 
 } // namespace quillmere

@@ -4,6 +4,7 @@ import os
 import unittest
 
 from case import DesktopTest
+from desktop import wait_until
 
 
 def truncated(path):
@@ -66,7 +67,7 @@ class HostileSettingsTest(DesktopTest):
 
 
 class DebugLogTest(DesktopTest):
-    def test_off_unless_asked_for(self):
+    def test_off_until_asked_for_and_then_live(self):
         island = self.start_island()
         island.write_file(island.config / "local.json", '{"debugLogEnabled": "true"}')
         island.wait_out_mute()
@@ -75,6 +76,13 @@ class DebugLogTest(DesktopTest):
         log = self.desktop.dir / "state" / "Logs" / "Quillmere" / "debug.log"
         self.assertEqual(log.read_text(), "")
         self.assertEqual(log.stat().st_mode & 0o077, 0)
+        island.write_file(island.config / "local.json", '{"debugLogEnabled": true}')
+        wait_until(lambda: "LOG_ENABLED" in log.read_text(), 5, "the log to be switched on live")
+        self.assertRegex(
+            log.read_text(),
+            r"^\n========== Quillmere Session Start .+ ==========\n"
+            r"\[\d\d:\d\d:\d\d\.\d{3}\] \[GENERAL\] \[DebugLogSwitch:\d+\] LOG_ENABLED\n$",
+        )
 
 
 if __name__ == "__main__":
