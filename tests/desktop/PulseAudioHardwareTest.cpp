@@ -128,7 +128,7 @@ struct PulseAudioHardwareTest : testing::Test {
     {
         hardware.emplace(runLoop);
         availabilityTask = hardware->onAvailabilityChanged(
-            [this](bool available) { events.push_back(available ? "available" : "away"); });
+            [this](bool available) { events.emplace_back(available ? "available" : "away"); });
         defaultTask = hardware->onDefaultOutputChanged([this] { events.emplace_back("default"); });
         ASSERT_TRUE(waitUntil([this] { return hardware->isAvailable(); }));
     }
