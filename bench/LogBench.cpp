@@ -27,7 +27,7 @@ void logCategoryOff(benchmark::State &state)
 {
     Log log;
     double elapsed = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         log.logger.log(IslandDebugLogger::Category::Progress, [&] { return message(elapsed); });
         benchmark::DoNotOptimize(elapsed += 0.25);
     }
@@ -41,7 +41,7 @@ void logCategoryOn(benchmark::State &state)
     log.logger.setEnabled(true);
     const QString text = message(0.25);
     int pending = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         log.logger.log(IslandDebugLogger::Category::Progress, text);
         if (++pending == 1000) { // stay below the limit of what may wait for the disk
             state.PauseTiming();
@@ -59,7 +59,7 @@ void logAfterIdle(benchmark::State &state)
     Log log;
     log.logger.setEnabled(true);
     const QString text = message(0.25);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         log.logger.drain();
         std::this_thread::sleep_for(std::chrono::milliseconds(2));
         const auto start = std::chrono::steady_clock::now();

@@ -14,10 +14,11 @@ void timerWakeUp(benchmark::State &state)
 {
     TimerQueue queue;
     std::vector<Task> tasks;
+    tasks.reserve(static_cast<std::size_t>(state.range(0)));
     Instant now{};
     for (int i = 0; i < static_cast<int>(state.range(0)); ++i)
         tasks.push_back(queue.add(now + 200ms + i * 1ms, 200ms, 50ms, [] {}));
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         now = *queue.nextWake();
         queue.fireDue(now);
     }
