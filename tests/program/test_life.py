@@ -19,7 +19,6 @@ class LifeTest(DesktopTest):
             "SIGTERM": lambda island: island.process.send_signal(signal.SIGTERM),
             "SIGINT": lambda island: island.process.send_signal(signal.SIGINT),
             "quit": lambda island: island.ctl("action", "quit"),
-            "SIGTERM twice": lambda island: [island.process.send_signal(signal.SIGTERM) for _ in range(2)],
         }
         for name, end in endings.items():
             with self.subTest(name):
