@@ -95,18 +95,4 @@ TEST_F(FolderCloudStoreTest, WithoutAFolderNothingHappens)
     EXPECT_THAT(log.take(), IsEmpty());
 }
 
-TEST_F(FolderCloudStoreTest, ATransferInProgressChangesNothing)
-{
-    write(cloudFile, R"({"volumeHUDDuration": 2.5})");
-    const Machine machine(loop, directory.path(), {});
-    advance(1s);
-    write(cloudFile, R"({"volumeHUDD)");
-    advance(1500ms);
-    EXPECT_EQ(machine.settings->volumeHUDDuration.get(), 2.5);
-    write(cloudFile, R"({"volumeHUDDuration": 3.5})");
-    advance(5s);
-    EXPECT_EQ(machine.settings->volumeHUDDuration.get(), 3.5);
-    EXPECT_THAT(names(u"*"_s), ElementsAre(cloudFile));
-}
-
 } // namespace

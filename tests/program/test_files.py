@@ -11,20 +11,8 @@ def truncated(path):
     path.write_text('{"showVolumeHUD": tr')
 
 
-def binary(path):
-    path.write_bytes(bytes(range(256)) * 20_000)
-
-
-def deep(path):
-    path.write_text('{"a":' + "[" * 2_500_000 + "]" * 2_500_000 + "}")
-
-
 def directory(path):
     path.mkdir()
-
-
-def dangling_link(path):
-    path.symlink_to(path.with_name("nowhere") / "defaults.json")
 
 
 def wrong_types(path):
@@ -33,15 +21,7 @@ def wrong_types(path):
 
 class HostileSettingsTest(DesktopTest):
     def test_starts_and_works(self):
-        # name: (what is in the file's place, whether it is set aside)
-        for make, set_aside in [
-            (truncated, True),
-            (binary, True),
-            (deep, True),
-            (directory, False),
-            (dangling_link, False),
-            (wrong_types, False),
-        ]:
+        for make, set_aside in [(truncated, True), (directory, False), (wrong_types, False)]:
             with self.subTest(make.__name__):
                 self.check(make, set_aside)
 

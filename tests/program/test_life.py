@@ -17,7 +17,6 @@ class LifeTest(DesktopTest):
     def test_ends_cleanly(self):
         endings = {
             "SIGTERM": lambda island: island.process.send_signal(signal.SIGTERM),
-            "SIGINT": lambda island: island.process.send_signal(signal.SIGINT),
             "quit": lambda island: island.ctl("action", "quit"),
         }
         for name, end in endings.items():

@@ -18,30 +18,22 @@ class LookTest(IslandTest):
         self.island.wait_for_hud(percent / 100)
         return self.at_rest()
 
-    def test_pill(self):
-        self.at_rest()
-        left, right = self.island.shape(self.desktop.primary, 16)
-        self.assertAlmostEqual(left, -63, delta=0.6)
-        self.assertAlmostEqual(right, 63, delta=0.6)
-        self.assertIsNone(self.island.shape(self.desktop.primary, 33))
-        self.assertEqual(self.island.get("Frame")[2:], [126, 32])
+    def assert_reaches(self, y, x, delta=0.6):
+        left, right = self.island.shape(self.desktop.primary, y)
+        self.assertAlmostEqual(left, -x, delta=delta)
+        self.assertAlmostEqual(right, x, delta=delta)
 
-    def test_ears_meet_the_edge(self):
+    def test_shapes(self):
         self.at_rest()
-        left, right = self.island.shape(self.desktop.primary, 0)
-        self.assertLess(left, -65)
-        self.assertGreater(right, 65)
-
-    def test_hud(self):
-        self.show(40)
-        left, right = self.island.shape(self.desktop.primary, 22)
-        self.assertAlmostEqual(left, -150, delta=0.6)
-        self.assertAlmostEqual(right, 150, delta=0.6)
-        self.assertIsNone(self.island.shape(self.desktop.primary, 45))
-        self.assertEqual(self.island.get("Frame")[2:], [300, 44])
+        for size, rest in (([126, 32], 0), ([300, 44], 40)):
+            if rest:
+                self.show(rest)
+            self.assertEqual(self.island.get("Frame")[2:], size)
+            self.assert_reaches(size[1] // 2, size[0] / 2)
+            self.assert_reaches(0, size[0] / 2 + 4, delta=2)  # the ears meet the screen's edge
+            self.assertIsNone(self.island.shape(self.desktop.primary, size[1] + 1))
 
     def test_bar_is_as_long_as_the_level(self):
-        # A longer stay than the HUD's is not needed: the whole row is read at once.
         lengths = {}
         for percent in (25, 50, 75):
             self.show(percent)

@@ -70,15 +70,5 @@ class ScreensTest(IslandTest):
             self.shows_hud_on(first, percent + 1)
 
 
-class SmallTargetsTest(IslandTest):
-    defaults = {"notchWidth": 180, "notchHeight": 40}
-
-    def test_pill_has_the_size_asked_for(self):
-        wait_until(lambda: self.island.get("Frame")[2:] == [180, 40], 3, "a frame of 180 x 40")
-        left, right = self.island.shape(self.desktop.primary, 20)
-        self.assertAlmostEqual(left, -90, delta=1)
-        self.assertAlmostEqual(right, 90, delta=1)
-
-
 if __name__ == "__main__":
     unittest.main(verbosity=2)

@@ -33,14 +33,6 @@ class SoundServerTest(DesktopTest):
             self.change_until_shown(island)
         self.assertTrue(island.is_alive())
 
-    def test_absent_at_the_start(self):
-        self.desktop.kill_sound_server()
-        island = self.start_island()
-        island.wait_out_mute()
-        self.assertEqual(island.hud(), {})
-        self.desktop.start_sound_server()
-        self.change_until_shown(island)
-
 
 class StormTest(IslandTest):
     def storm(self, percents, last):

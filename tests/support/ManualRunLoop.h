@@ -2,6 +2,7 @@
 
 #include "platform/RunLoop.h"
 
+#include <algorithm>
 #include <deque>
 #include <mutex>
 #include <thread>
@@ -9,34 +10,23 @@
 
 namespace quillmere {
 
-/// A SerialQueue whose work runs when its ManualRunLoop settles, or when it is drained.
-class ManualSerialQueue : public SerialQueue
+/// Work that waits for the test, put in by any thread.
+class ManualWork
 {
 public:
-    ~ManualSerialQueue() override { drain(); }
-
-    void async(std::function<void()> work) override
+    void put(std::function<void()> work)
     {
         const std::scoped_lock lock(mutex_);
         work_.push_back(std::move(work));
     }
-
-    void drain() override
-    {
-        while (runOne()) {
-        }
-    }
-
     bool runOne()
     {
-        std::function<void()> work;
-        {
-            const std::scoped_lock lock(mutex_);
-            if (work_.empty())
-                return false;
-            work = std::move(work_.front());
-            work_.pop_front();
-        }
+        std::unique_lock lock(mutex_);
+        if (work_.empty())
+            return false;
+        const auto work = std::move(work_.front());
+        work_.pop_front();
+        lock.unlock();
         work();
         return true;
     }
@@ -44,6 +34,26 @@ public:
 private:
     std::mutex mutex_;
     std::deque<std::function<void()>> work_;
+};
+
+/// A SerialQueue whose work runs when its ManualRunLoop settles, or when it is drained.
+class ManualSerialQueue : public SerialQueue
+{
+public:
+    explicit ManualSerialQueue(std::shared_ptr<ManualWork> work)
+        : work_(std::move(work))
+    {
+    }
+    ~ManualSerialQueue() override { ManualSerialQueue::drain(); }
+    void async(std::function<void()> work) override { work_->put(std::move(work)); }
+    void drain() override
+    {
+        while (work_->runOne()) {
+        }
+    }
+
+private:
+    std::shared_ptr<ManualWork> work_;
 };
 
 /// A run loop whose time only moves when a test advances it. Timers fire in deadline order at the
@@ -97,70 +107,33 @@ public:
     }
     bool isMainThread() const override { return std::this_thread::get_id() == mainThread_; }
     using RunLoop::post;
-    void post(std::function<void()> action) override
-    {
-        const std::scoped_lock lock(mutex_);
-        posted_.push_back(std::move(action));
-    }
+    void post(std::function<void()> action) override { posted_.put(std::move(action)); }
     std::unique_ptr<SerialQueue> makeSerialQueue(const QString &) override
     {
-        auto queue = std::make_shared<ManualSerialQueue>();
-        queues_.push_back(queue);
-        return std::make_unique<Handle>(queue);
+        queues_.push_back(std::make_shared<ManualWork>());
+        return std::make_unique<ManualSerialQueue>(queues_.back());
     }
 
 protected:
-    void runInBackground(std::function<void()> work) override
-    {
-        const std::scoped_lock lock(mutex_);
-        background_.push_back(std::move(work));
-    }
+    void runInBackground(std::function<void()> work) override { background_.put(std::move(work)); }
     void timersChanged() override {}
 
 private:
-    struct Handle : SerialQueue {
-        explicit Handle(std::shared_ptr<ManualSerialQueue> queue)
-            : queue_(std::move(queue))
-        {
-        }
-        void async(std::function<void()> work) override { queue_->async(std::move(work)); }
-        void drain() override { queue_->drain(); }
-        std::shared_ptr<ManualSerialQueue> queue_;
-    };
-
     bool runOne()
     {
-        if (runFirst(posted_) || runFirst(background_))
-            return true;
-        for (const auto &queue : std::vector(queues_)) {
-            if (const auto alive = queue.lock(); alive && alive->runOne())
-                return true;
-        }
-        return false;
-    }
-
-    bool runFirst(std::deque<std::function<void()>> &pending)
-    {
-        std::function<void()> action;
-        {
-            const std::scoped_lock lock(mutex_);
-            if (pending.empty())
-                return false;
-            action = std::move(pending.front());
-            pending.pop_front();
-        }
-        action();
-        return true;
+        const auto queues = queues_; // work may make another
+        return posted_.runOne() || background_.runOne() ||
+               std::any_of(queues.begin(), queues.end(),
+                           [](const auto &queue) { return queue->runOne(); });
     }
 
     Instant now_{std::chrono::hours(1)};
     std::chrono::system_clock::time_point wallAtZero_{std::chrono::hours(24 * 365 * 56)};
     std::thread::id mainThread_ = std::this_thread::get_id();
     int wakeUps_ = 0;
-    std::mutex mutex_;
-    std::deque<std::function<void()>> posted_;
-    std::deque<std::function<void()>> background_;
-    std::vector<std::weak_ptr<ManualSerialQueue>> queues_;
+    ManualWork posted_;
+    ManualWork background_;
+    std::vector<std::shared_ptr<ManualWork>> queues_;
 };
 
 } // namespace quillmere

@@ -66,13 +66,6 @@ public:
         xcb_flush(connection_);
     }
 
-    xcb_window_t focus()
-    {
-        const XcbReply<xcb_get_input_focus_reply_t> reply(
-            xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
-        return reply->focus;
-    }
-
     /// In native pixels of the root window.
     QRect geometry(xcb_window_t window)
     {

@@ -73,13 +73,10 @@ public:
         return process.readAllStandardOutput();
     }
 
-    /// Adds or changes a monitor, in native pixels; a name with a leading '*' makes it the primary
+    /// Adds a monitor, in native pixels; a name with a leading '*' makes it the primary
     /// one. One of the monitors takes the server's only output, "screen", the others "none".
     static void setMonitor(const QString &name, const QRect &area, const QString &output)
     {
-        // The server refuses to change one in place.
-        if (hasMonitor(name))
-            removeMonitor(name);
         const auto geometry = QStringLiteral("%1/400x%2/260+%3+%4")
                                   .arg(area.width())
                                   .arg(area.height())
@@ -87,19 +84,8 @@ public:
                                   .arg(area.y());
         run(QStringLiteral("xrandr"), {QStringLiteral("--setmonitor"), name, geometry, output});
     }
-    static void removeMonitor(const QString &name)
-    {
-        run(QStringLiteral("xrandr"), {QStringLiteral("--delmonitor"), bare(name)});
-    }
 
 private:
-    static QString bare(const QString &name) { return name.startsWith(u'*') ? name.mid(1) : name; }
-    static bool hasMonitor(const QString &name)
-    {
-        const auto monitors = run(QStringLiteral("xrandr"), {QStringLiteral("--listmonitors")});
-        return monitors.contains(bare(name).toUtf8());
-    }
-
     ChildProgram server_;
     QByteArray before_;
     QByteArray display_;

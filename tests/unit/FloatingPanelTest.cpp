@@ -13,6 +13,8 @@
 namespace quillmere {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 using ::testing::ElementsAre;
 
 class FloatingPanelTest : public ::testing::Test, public SettingsFixture
@@ -20,9 +22,9 @@ class FloatingPanelTest : public ::testing::Test, public SettingsFixture
 protected:
     FloatingPanelTest()
     {
-        auto left = FakeScreens::plain(QStringLiteral("A"), QRectF(0, 0, 1000, 800));
+        auto left = FakeScreens::plain(u"A"_s, QRectF(0, 0, 1000, 800));
         left.isMain = true;
-        screens.list = {left, FakeScreens::plain(QStringLiteral("B"), QRectF(1000, 0, 2000, 800))};
+        screens.list = {left, FakeScreens::plain(u"B"_s, QRectF(1000, 0, 2000, 800))};
         taps = notifications.observe(events::islandTapped,
                                      [this](const QVariantMap &) { ++tapCount; });
         scrolls = notifications.observe(events::islandScrolled, [this](const QVariantMap &info) {
@@ -78,28 +80,25 @@ TEST_F(FloatingPanelTest, HidesFromOverviewAndCaptureAtOnceAndFromTheStart)
     show();
     EXPECT_TRUE(window.behavior.testFlag(CollectionBehavior::Transient));
     EXPECT_EQ(window.sharing, SharingType::None);
-
     panel->applyHideInMissionControl(false);
     panel->applyHideFromScreenCapture(false);
     EXPECT_EQ(window.behavior.toInt(), 1 | 2 | 4);
     EXPECT_EQ(window.sharing, SharingType::ReadOnly);
 }
 
-TEST_F(FloatingPanelTest, FirstPositionMakesItOpaqueAndShowsIt)
-{
-    open().setSize({300, 44});
-    EXPECT_FALSE(window.visible);
-    panel->displaysDidChange();
-    EXPECT_EQ(panel->alpha(), 1);
-    EXPECT_EQ(window.frame, QRectF(350, 0, 300, 44));
-    window.calls.erase(window.calls.begin(), window.calls.begin() + 7);
-    EXPECT_THAT(window.calls, ElementsAre("frame", "show"));
-}
-
 TEST_F(FloatingPanelTest, KeepsItsSizeAndCentreWhenScreensChange)
 {
-    show().setSize({300, 44});
+    show();
+    int changes = 0;
+    QObject::connect(&*panel, &FloatingPanel::frameChanged, [&] { ++changes; });
+    panel->displaysDidChange();
+    EXPECT_EQ(changes, 0);
+    panel->setSize({300, 44});
     EXPECT_EQ(panel->frame(), QRectF(350, 0, 300, 44));
+    EXPECT_EQ(changes, 1);
+    defaults.changeFromOutside(u"notchWidth"_s, 180.0);
+    defaults.changeFromOutside(u"notchHeight"_s, 36.0);
+    EXPECT_EQ(panel->collapsedSize(), QSizeF(180, 36));
     screens.list[0].frame = QRectF(0, 100, 1400, 700);
     panel->displaysDidChange();
     EXPECT_EQ(panel->frame(), QRectF(550, 100, 300, 44));
@@ -134,16 +133,18 @@ TEST_F(FloatingPanelTest, SurvivesHavingNoScreens)
     EXPECT_EQ(panel->collapsedSize(), QSizeF(126, 32));
 }
 
-TEST_F(FloatingPanelTest, StartsWithoutScreens)
+TEST_F(FloatingPanelTest, TheFirstScreenMakesItOpaqueAndShowsIt)
 {
     const auto later = std::exchange(screens.list, {});
-    open().displaysDidChange();
+    open().setSize({300, 44});
+    window.takeCalls();
+    panel->displaysDidChange();
     EXPECT_EQ(panel->alpha(), 0);
-    EXPECT_FALSE(window.visible);
     screens.list = later;
     panel->displaysDidChange();
     EXPECT_EQ(panel->alpha(), 1);
-    EXPECT_TRUE(window.visible);
+    EXPECT_EQ(window.frame, QRectF(350, 0, 300, 44));
+    EXPECT_THAT(window.calls, ElementsAre("frame", "show"));
 }
 
 TEST_F(FloatingPanelTest, FollowsTheDisplaySelectionAtOnce)
@@ -161,31 +162,6 @@ TEST_F(FloatingPanelTest, FollowsTheDisplaySelectionAtOnce)
     EXPECT_EQ(window.frame.center().x(), 2000);
     panel->displaysDidChange();
     EXPECT_EQ(window.frame.center().x(), 500);
-}
-
-TEST_F(FloatingPanelTest, PublishesTheCollapsedSizeOfEdits)
-{
-    show();
-    int changes = 0;
-    QObject::connect(&*panel, &FloatingPanel::collapsedSizeChanged, [&] { ++changes; });
-    defaults.changeFromOutside(QStringLiteral("notchWidth"), 180.0);
-    defaults.changeFromOutside(QStringLiteral("notchHeight"), 36.0);
-    EXPECT_EQ(panel->collapsedSize(), QSizeF(180, 36));
-    EXPECT_EQ(changes, 2);
-    panel->displaysDidChange();
-    EXPECT_EQ(changes, 2);
-}
-
-TEST_F(FloatingPanelTest, FramesAreAnnouncedOnlyWhenTheyChange)
-{
-    show();
-    int changes = 0;
-    QObject::connect(&*panel, &FloatingPanel::frameChanged, [&] { ++changes; });
-    panel->displaysDidChange();
-    panel->setSize(panel->size());
-    EXPECT_EQ(changes, 0);
-    panel->setSize({300, 44});
-    EXPECT_EQ(changes, 1);
 }
 
 TEST_F(FloatingPanelTest, ClickInsideTheFrameIsATapOnTheMainQueue)
@@ -263,7 +239,7 @@ TEST_F(FloatingPanelTest, CollapsedScrollCountsNotches)
     EXPECT_THAT(steps, ElementsAre(1));
 }
 
-TEST_F(FloatingPanelTest, FullscreenMatrix)
+TEST_F(FloatingPanelTest, FullscreenIsAnsweredLive)
 {
     struct Case {
         bool hide, disable, covered, idle;
@@ -281,26 +257,18 @@ TEST_F(FloatingPanelTest, FullscreenMatrix)
         settings.disableInFullscreen.set(c.disable);
         panel->setIdle(c.idle);
         window.setCovered(c.covered);
+        window.takeCalls();
+        panel->orderFront();
         EXPECT_EQ(window.visible, c.visible) << c.hide << c.disable << c.covered << c.idle;
+        EXPECT_EQ(window.takeCalls().size(), c.visible ? 1U : 0U) << "only a visible one comes up";
         EXPECT_EQ(panel->suppressesHUDs(), c.suppresses)
             << c.hide << c.disable << c.covered << c.idle;
     }
-}
-
-TEST_F(FloatingPanelTest, FullscreenIsAnsweredLive)
-{
-    show();
-    window.setCovered(true);
-    EXPECT_FALSE(window.visible);
-    panel->orderFront();
-    panel->setIdle(false);
-    EXPECT_TRUE(window.visible);
     panel->setIdle(true);
+    settings.hideInFullscreen.set(true);
     EXPECT_FALSE(window.visible);
     settings.hideInFullscreen.set(false);
     EXPECT_TRUE(window.visible);
-    panel->orderFront();
-    EXPECT_THAT(window.calls, ElementsAre("hide", "show", "hide", "show", "front"));
 }
 
 } // namespace

@@ -17,6 +17,8 @@
 namespace quillmere {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 using HUDType = HUDContent::HUDType;
 using testing::ElementsAre;
 
@@ -56,7 +58,7 @@ protected:
     QStringList logged()
     {
         static const QRegularExpression shape(
-            QStringLiteral(R"(^\[[\d:.]{12}\] \[PROGRESS\] \[HUDManager:\d+\] (.*)$)"));
+            uR"(^\[[\d:.]{12}\] \[PROGRESS\] \[HUDManager:\d+\] (.*)$)"_s);
         logger_.drain();
         QFile file(logger_.logFile());
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
@@ -90,36 +92,27 @@ TEST_F(HUDManagerTest, IsMuteUntilThreeSecondsAfterLaunch)
     EXPECT_EQ(shown(), "title");
 }
 
-TEST_F(HUDManagerTest, NewestReplacesAtOnceAndStaysItsWholeDuration)
-{
-    passLaunchMute();
-    manager_.showVolume(40, 2);
-    pass(0.2);
-    manager_.show(hud(HUDType::Battery, "battery"), false, 3);
-    EXPECT_EQ(shown(), "battery");
-    pass(2.99);
-    EXPECT_EQ(shown(), "battery");
-    pass(0.01);
-    EXPECT_EQ(shown(), "");
-}
-
-TEST_F(HUDManagerTest, TellsOfRealChangesOnly)
+TEST_F(HUDManagerTest, NewestReplacesAtOnceStaysItsWholeDurationAndIsToldOnce)
 {
     passLaunchMute();
     int changes = 0;
     QObject::connect(&manager_, &HUDManager::currentHUDChanged, [&] { ++changes; });
+    manager_.show(hud(HUDType::Battery), false, 3);
+    pass(0.6);
     manager_.showVolume(40, 1);
     pass(0.6);
     manager_.showVolume(40, 1);
-    EXPECT_EQ(changes, 1);
-    pass(0.6);
+    EXPECT_EQ(changes, 2);
+    pass(0.99);
     EXPECT_EQ(shown(), "Volume") << "the same HUD again starts its countdown again";
-    manager_.dismissCurrentHUD();
-    manager_.dismissCurrentHUD();
+    pass(0.01);
     EXPECT_EQ(shown(), "");
-    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(changes, 3);
+    manager_.showVolume(40, 1);
+    manager_.dismissCurrentHUD();
+    manager_.dismissCurrentHUD();
     pass(5);
-    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(changes, 5);
 }
 
 TEST_F(HUDManagerTest, AnyDurationIsSafe)
@@ -155,20 +148,20 @@ TEST_F(HUDManagerTest, LevelHUDs)
     passLaunchMute();
     for (const Case &c : cases) {
         SCOPED_TRACE(c.percent);
+        const auto expectLevel = [&](const char *icon) {
+            ASSERT_TRUE(manager_.currentHUD());
+            EXPECT_EQ(manager_.currentHUD()->icon, QString::fromLatin1(icon));
+            EXPECT_DOUBLE_EQ(*manager_.currentHUD()->level, c.level);
+            EXPECT_EQ(manager_.isOvershoot(), c.overshoot);
+            pass(0.35);
+            EXPECT_FALSE(manager_.isOvershoot());
+        };
         manager_.showVolume(c.percent, 1);
-        ASSERT_TRUE(manager_.currentHUD());
         EXPECT_EQ(manager_.currentHUD()->type, HUDType::Volume);
-        EXPECT_EQ(*manager_.currentHUD()->icon, QLatin1String(c.volumeIcon));
-        EXPECT_DOUBLE_EQ(*manager_.currentHUD()->level, c.level);
-        EXPECT_EQ(manager_.isOvershoot(), c.overshoot);
-        pass(0.35);
-        EXPECT_FALSE(manager_.isOvershoot());
+        expectLevel(c.volumeIcon);
         manager_.showBrightness(c.percent, 1);
         EXPECT_EQ(shown(), "Brightness");
-        EXPECT_EQ(*manager_.currentHUD()->icon, QLatin1String("sun.max.fill"));
-        EXPECT_DOUBLE_EQ(*manager_.currentHUD()->level, c.level);
-        EXPECT_EQ(manager_.isOvershoot(), c.overshoot);
-        pass(0.35);
+        expectLevel("sun.max.fill");
     }
     manager_.dismissCurrentHUD();
     manager_.showVolume(NaN, 1);
@@ -198,9 +191,8 @@ TEST_F(HUDManagerTest, LowBattery)
 {
     passLaunchMute();
     manager_.showLowBattery(15, 2);
-    ASSERT_TRUE(manager_.currentHUD());
     EXPECT_EQ(shown(), "Low Battery");
-    EXPECT_EQ(*manager_.currentHUD()->subtitle, QStringLiteral("15% remaining"));
+    EXPECT_EQ(*manager_.currentHUD()->subtitle, u"15% remaining"_s);
     EXPECT_EQ(manager_.currentHUD()->type, HUDType::Battery);
     EXPECT_THAT(queue(), ElementsAre());
 }
@@ -233,26 +225,28 @@ TEST_F(HUDManagerTest, SteppingWrapsAndRemovingKeepsTheActivity)
     EXPECT_EQ(manager_.currentQueueIndex(), 0);
     for (const auto type : {HUDType::Email, HUDType::Focus, HUDType::Weather, HUDType::Calendar})
         manager_.show(hud(type, hudTypeName(type).data()), true, 1);
-    manager_.showPreviousActivity();
-    EXPECT_EQ(manager_.currentQueueIndex(), 3);
-    manager_.showNextActivity();
-    EXPECT_EQ(manager_.currentQueueIndex(), 0);
-    manager_.showPreviousActivity();
-    manager_.showPreviousActivity();
-    EXPECT_EQ(manager_.currentQueueIndex(), 2);
-
+    const std::pair<void (HUDManager::*)(), int> steps[] = {
+        {&HUDManager::showPreviousActivity, 3},
+        {&HUDManager::showNextActivity, 0},
+        {&HUDManager::showPreviousActivity, 3},
+        {&HUDManager::showPreviousActivity, 2},
+    };
+    for (const auto &[step, index] : steps) {
+        (manager_.*step)();
+        EXPECT_EQ(manager_.currentQueueIndex(), index);
+    }
     struct Removal {
-        std::vector<std::string> left;
         int index;
+        std::vector<std::string> left;
         int current;
     };
     const Removal removals[] = {
-        {{"email", "focus", "weather", "calendar"}, -1, 2},
-        {{"email", "focus", "weather", "calendar"}, 4, 2},
-        {{"focus", "weather", "calendar"}, 0, 1},
-        {{"focus", "weather"}, 2, 1},
-        {{"focus"}, 1, 0},
-        {{}, 0, 0},
+        {-1, {"email", "focus", "weather", "calendar"}, 2},
+        {4, {"email", "focus", "weather", "calendar"}, 2},
+        {0, {"focus", "weather", "calendar"}, 1},
+        {2, {"focus", "weather"}, 1},
+        {1, {"focus"}, 0},
+        {0, {}, 0},
     };
     for (const Removal &removal : removals) {
         manager_.removeActivity(removal.index);
@@ -261,7 +255,7 @@ TEST_F(HUDManagerTest, SteppingWrapsAndRemovingKeepsTheActivity)
     }
 }
 
-TEST_F(HUDManagerTest, ASlotMayShowOrDismiss)
+TEST_F(HUDManagerTest, ASlotMayShow)
 {
     passLaunchMute();
     bool answered = false;
@@ -275,11 +269,6 @@ TEST_F(HUDManagerTest, ASlotMayShowOrDismiss)
     pass(3.9);
     EXPECT_EQ(shown(), "answer");
     pass(0.1);
-    EXPECT_EQ(shown(), "");
-
-    QObject::connect(&manager_, &HUDManager::currentHUDChanged, &manager_,
-                     &HUDManager::dismissCurrentHUD);
-    manager_.showVolume(100, 2);
     EXPECT_EQ(shown(), "");
 }
 
@@ -359,30 +348,18 @@ const Poll at30{0, "A", true, 30, 200};
 
 // clang-format off
 const Playhead playheads[] = {
-    {"NewTrack", {{0, "A", true, 10, 200}},
-     {"NEW_TRACK seeding base=10.00"}, 1, "0:11", "-3:09", 0.055, true},
     {"NewTrackPaused", {{0, "A", false, 65, 3725}},
      {"NEW_TRACK seeding base=65.00"}, 1, "1:05", "-1:01:00", 65.0 / 3725, false},
-    {"UnknownPlayingCountsAsPlaying", {{0, "A", {}, 10, 200}},
-     {"NEW_TRACK seeding base=10.00"}, 1, "0:11", "-3:09", 0.055, true},
     {"WithoutDuration", {{0, "A", true, 10, 0}, {1, "A", true, 11, -1}},
      {"NEW_TRACK seeding base=10.00", "RESUME seeding base=11.00"}, 5, "0:11", "-0:00", 0, false},
-    {"DurationComesLate", {{0, "A", true, 10, 0}, {1, "A", true, 11, 100}},
-     {"NEW_TRACK seeding base=10.00", "RESUME seeding base=11.00"}, 1, "0:12", "-1:28", 0.12, true},
-    {"OtherTrack", {at30, {5, "a", true, 1, 100}},
+    {"OtherTrack", {at30, {5.1, "a", {}, 1, 100}},
      {new30, "NEW_TRACK seeding base=1.00"}, 1, "0:02", "-1:38", 0.02, true},
-    {"OtherTrackPaused", {at30, {5, "B", false, 1, 100}},
-     {new30, "NEW_TRACK seeding base=1.00"}, 1, "0:01", "-1:39", 0.01, false},
-    {"SmallDriftIsIgnored", {at30, {1.5, "A", true, 30.6, 200}},
-     {new30, "POLL_CHANGED_BUT_CLOSE drift=0.90 ignoring"}, 0.5, "0:32", "-2:48", 0.16, true},
     {"HalfASecondIsNoChange", {at30, {1.5, "A", true, 30.5, 200}},
      {new30}, 0.5, "0:32", "-2:48", 0.16, true},
     {"DriftOfTwoSecondsIsClose", {at30, {1.5, "A", true, 33.5, 200}},
      {new30, "POLL_CHANGED_BUT_CLOSE drift=2.00 ignoring"}, 0.5, "0:32", "-2:48", 0.16, true},
     {"Seek", {at30, {1.5, "A", true, 71.5, 200}},
      {new30, "SEEK_DETECTED drift=40.00 reseeding base=71.50"}, 0.5, "1:12", "-2:08", 0.36, true},
-    {"SeekBack", {at30, {1, "A", true, 2, 200}},
-     {new30, "SEEK_DETECTED drift=29.00 reseeding base=2.00"}, 1, "0:03", "-3:17", 0.015, true},
     {"OnePausedPollIsIgnored", {at30, {1, "A", false, 30, 200}, {1, "A", true, 32, 200}, {1, "A", false, 32, 200}},
      {new30, "POLL_CHANGED_BUT_CLOSE drift=0.00 ignoring"}, 1, "0:34", "-2:46", 0.17, true},
     {"TwoPausedPollsFreeze", {at30, {1, "A", false, 30, 200}, {1, "A", false, 30, 200}},
@@ -418,22 +395,20 @@ TEST_F(HUDManagerTest, LogsEveryPollInFull)
     record.isPlaying = false;
     manager_.updateNowPlaying(record, 12, 200);
     manager_.updateNowPlaying(record, 12, 200);
+    const QString poll = u"POLL track=\"T \"x\"\" sameTrack=%1 timerRunning=%1 pollPlaying=%2 "
+                         "pollElapsed=12.00 lastPoll=%3 pollChanged=%2 interp=%4 dur=200.00 "
+                         "pausedPolls=%5"_s;
+    const QString emitted = u"EMIT timerRunning=%1 base=%2 delta=%3 elapsed=%4 dur=200.00"_s;
     const QStringList expected{
-        QStringLiteral("POLL track=\"T \"x\"\" sameTrack=false timerRunning=false pollPlaying=true "
-                       "pollElapsed=12.00 lastPoll=0.00 pollChanged=true interp=0.00 dur=200.00 "
-                       "pausedPolls=0"),
-        QStringLiteral("NEW_TRACK seeding base=12.00"),
-        QStringLiteral("EMIT timerRunning=true base=12.00 delta=0.00 elapsed=12.00 dur=200.00"),
-        QStringLiteral("EMIT timerRunning=true base=12.00 delta=0.25 elapsed=12.25 dur=200.00"),
-        QStringLiteral("POLL track=\"T \"x\"\" sameTrack=true timerRunning=true pollPlaying=false "
-                       "pollElapsed=12.00 lastPoll=12.00 pollChanged=false interp=12.25 dur=200.00 "
-                       "pausedPolls=0"),
-        QStringLiteral("EMIT timerRunning=true base=12.00 delta=0.25 elapsed=12.25 dur=200.00"),
-        QStringLiteral("POLL track=\"T \"x\"\" sameTrack=true timerRunning=true pollPlaying=false "
-                       "pollElapsed=12.00 lastPoll=12.00 pollChanged=false interp=12.25 dur=200.00 "
-                       "pausedPolls=1"),
-        QStringLiteral("CONFIRMED_PAUSE freezing at 12.25"),
-        QStringLiteral("EMIT timerRunning=false base=12.25 delta=0.00 elapsed=12.25 dur=200.00"),
+        poll.arg(u"false"_s, u"true"_s, u"0.00"_s, u"0.00"_s, u"0"_s),
+        u"NEW_TRACK seeding base=12.00"_s,
+        emitted.arg(u"true"_s, u"12.00"_s, u"0.00"_s, u"12.00"_s),
+        emitted.arg(u"true"_s, u"12.00"_s, u"0.25"_s, u"12.25"_s),
+        poll.arg(u"true"_s, u"false"_s, u"12.00"_s, u"12.25"_s, u"0"_s),
+        emitted.arg(u"true"_s, u"12.00"_s, u"0.25"_s, u"12.25"_s),
+        poll.arg(u"true"_s, u"false"_s, u"12.00"_s, u"12.25"_s, u"1"_s),
+        u"CONFIRMED_PAUSE freezing at 12.25"_s,
+        emitted.arg(u"false"_s, u"12.25"_s, u"0.00"_s, u"12.25"_s),
     };
     EXPECT_EQ(logged(), expected);
 }
@@ -462,27 +437,7 @@ TEST_F(HUDManagerTest, ClearingForgetsTheTrack)
     EXPECT_EQ(loop_.wakeUps(), wakeUps);
     EXPECT_FALSE(manager_.currentNowPlaying());
     manager_.updateNowPlaying(hud(HUDType::Notification, "A"), 31, 200);
-    EXPECT_TRUE(logged().contains(QStringLiteral("NEW_TRACK seeding base=31.00")));
-}
-
-TEST_F(HUDManagerTest, ANewTrackTicksFromItsOwnStart)
-{
-    manager_.updateNowPlaying(hud(HUDType::Notification, "A"), 30, 200);
-    pass(0.1);
-    manager_.updateNowPlaying(hud(HUDType::Notification, "B"), 0, 200);
-    pass(0.2);
-    EXPECT_EQ(*manager_.currentNowPlaying()->mediaProgress, 0);
-    pass(0.05);
-    EXPECT_DOUBLE_EQ(*manager_.currentNowPlaying()->mediaProgress, 0.25 / 200);
-}
-
-TEST_F(HUDManagerTest, AHUDLeavesThePlayingTrackAlone)
-{
-    passLaunchMute();
-    manager_.updateNowPlaying(hud(HUDType::Notification, "A"), 30, 200);
-    manager_.showVolume(40, 1);
-    pass(2);
-    EXPECT_EQ(*manager_.currentNowPlaying()->mediaElapsed, QStringLiteral("0:32"));
+    EXPECT_TRUE(logged().contains(u"NEW_TRACK seeding base=31.00"_s));
 }
 
 TEST(PlayheadTimeTest, IsWholeSecondsAndNeverNegative)
@@ -494,13 +449,6 @@ TEST(PlayheadTimeTest, IsWholeSecondsAndNeverNegative)
     };
     for (const auto &[elapsed, text] : cases)
         EXPECT_EQ(playheadTime(elapsed).toStdString(), text);
-}
-
-TEST(PlayheadLogTest, LargestNumberFits)
-{
-    PlayheadFrame frame;
-    frame.base = -std::numeric_limits<double>::max();
-    EXPECT_TRUE(logLine(frame).startsWith(u"EMIT timerRunning=false base=-17976931348623157"));
 }
 
 } // namespace

@@ -16,6 +16,8 @@
 namespace quillmere {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 using Category = IslandDebugLogger::Category;
 
 class IslandDebugLoggerTest : public testing::Test
@@ -51,7 +53,7 @@ protected:
 
     ManualRunLoop loop_;
     QTemporaryDir library_;
-    QString logDir_ = library_.filePath(QStringLiteral("Logs/Quillmere"));
+    QString logDir_ = library_.filePath(u"Logs/Quillmere"_s);
 };
 
 qsizetype banners(const QByteArray &text)
@@ -64,18 +66,16 @@ TEST_F(IslandDebugLoggerTest, WritesNothingAndFormatsNothingWhileOff)
     bool formatted = false;
     {
         IslandDebugLogger logger(loop_, library_.path());
-        logger.log(Category::General, [&] {
+        const auto format = [&] {
             formatted = true;
-            return QStringLiteral("never");
-        });
+            return u"never"_s;
+        };
+        logger.log(Category::General, format);
         logger.setEnabled(true);
         logger.setEnabledCategories({Category::Progress, Category::Airplay});
-        logger.log(Category::General, [&] {
-            formatted = true;
-            return QStringLiteral("never");
-        });
+        logger.log(Category::General, format);
         logger.setEnabled(false);
-        logger.log(Category::Progress, QStringLiteral("never"));
+        logger.log(Category::Progress, u"never"_s);
     }
     EXPECT_FALSE(formatted);
     ASSERT_TRUE(QFile::exists(path("debug.log")));
@@ -89,9 +89,9 @@ TEST_F(IslandDebugLoggerTest, WritesBannerOncePerRunAndAppendsAcrossRuns)
         std::chrono::system_clock::time_point(std::chrono::milliseconds(time.toMSecsSinceEpoch())));
     unsigned first = 0;
     run([&](IslandDebugLogger &logger) {
-        logger.log(Category::Progress, QStringLiteral("NEW_TRACK seeding base=12.00"));
+        logger.log(Category::Progress, u"NEW_TRACK seeding base=12.00"_s);
         first = __LINE__ - 1;
-        logger.log(Category::Collapse, [] { return QStringLiteral("Ünï"); });
+        logger.log(Category::Collapse, [] { return u"Ünï"_s; });
     });
     const QByteArray tag = "IslandDebugLoggerTest:";
     const QByteArray expected =
@@ -103,7 +103,7 @@ TEST_F(IslandDebugLoggerTest, WritesBannerOncePerRunAndAppendsAcrossRuns)
         tag + QByteArray::number(first + 2) + "] Ünï\n";
     EXPECT_EQ(read("debug.log"), expected);
 
-    run([](IslandDebugLogger &logger) { logger.log(Category::General, QStringLiteral("again")); });
+    run([](IslandDebugLogger &logger) { logger.log(Category::General, u"again"_s); });
     EXPECT_TRUE(read("debug.log").startsWith(expected));
     EXPECT_EQ(banners(read("debug.log")), 2);
 }
@@ -119,22 +119,23 @@ TEST_F(IslandDebugLoggerTest, IsPrivateToTheUser)
 
 TEST_F(IslandDebugLoggerTest, RotatesAtTheLimitAndNotBelow)
 {
+    const auto logTo = [this](qsizetype size, const QString &message) {
+        write("debug.log", QByteArray(size, 'x'));
+        run([&](IslandDebugLogger &logger) { logger.log(Category::General, message); });
+    };
     write("debug.old.log", "older");
-    write("debug.log", QByteArray(IslandDebugLogger::maxFileSize - 1, 'x'));
-    run([](IslandDebugLogger &logger) { logger.log(Category::General, QStringLiteral("fits")); });
+    logTo(IslandDebugLogger::maxFileSize - 1, u"fits"_s);
     EXPECT_EQ(read("debug.old.log"), "older");
-    EXPECT_TRUE(read("debug.log").endsWith("] fits\n"));
+    EXPECT_TRUE(read("debug.log").startsWith('x'));
+    logTo(IslandDebugLogger::maxFileSize, u"a\n[00:00] forged\r\t\u2028b\u0085c\u001b[2J"_s);
+    EXPECT_EQ(read("debug.old.log").size(), IslandDebugLogger::maxFileSize);
+    EXPECT_TRUE(read("debug.log").endsWith("] a [00:00] forged   b c [2J\n"));
+    EXPECT_EQ(read("debug.log").count('\n'), 3) << "a message is one line";
 
-    const QByteArray full(IslandDebugLogger::maxFileSize, 'y');
-    write("debug.log", full);
-    run([](IslandDebugLogger &logger) {
-        logger.log(Category::General, QStringLiteral("one"));
-        logger.log(Category::General, QStringLiteral("two"));
-    });
-    EXPECT_EQ(read("debug.old.log"), full);
-    EXPECT_TRUE(read("debug.log").startsWith("\n========== Quillmere Session Start "));
-    EXPECT_EQ(banners(read("debug.log")), 1);
-    EXPECT_EQ(read("debug.log").count('\n'), 4);
+    QFile::remove(path("debug.old.log"));
+    QDir().mkpath(path("debug.old.log/occupied"));
+    logTo(IslandDebugLogger::maxFileSize, u"bounded all the same"_s);
+    EXPECT_LT(read("debug.log").size(), 1000);
 }
 
 TEST_F(IslandDebugLoggerTest, RotatesInTheMiddleOfARun)
@@ -155,35 +156,16 @@ TEST_F(IslandDebugLoggerTest, RotatesInTheMiddleOfARun)
     EXPECT_EQ(read("debug.old.log").count("] mmm") + read("debug.log").count("] mmm"), 3000);
 }
 
-TEST_F(IslandDebugLoggerTest, StaysBoundedWhenTheOldFileCannotBeReplaced)
-{
-    QDir().mkpath(path("debug.old.log/occupied"));
-    write("debug.log", QByteArray(IslandDebugLogger::maxFileSize, 'x'));
-    run([](IslandDebugLogger &logger) { logger.log(Category::General, QStringLiteral("after")); });
-    EXPECT_LT(read("debug.log").size(), 1000);
-    EXPECT_TRUE(read("debug.log").endsWith("] after\n"));
-}
-
 TEST_F(IslandDebugLoggerTest, StartsAnewWhenTheFileIsDeleted)
 {
     run([&](IslandDebugLogger &logger) {
-        logger.log(Category::General, QStringLiteral("gone"));
+        logger.log(Category::General, u"gone"_s);
         logger.drain();
         QFile::remove(path("debug.log"));
-        logger.log(Category::General, QStringLiteral("kept"));
+        logger.log(Category::General, u"kept"_s);
     });
     EXPECT_EQ(banners(read("debug.log")), 1);
     EXPECT_TRUE(read("debug.log").endsWith("] kept\n"));
-}
-
-TEST_F(IslandDebugLoggerTest, AMessageIsOneLine)
-{
-    run([](IslandDebugLogger &logger) {
-        logger.log(Category::Progress,
-                   QStringLiteral("a\n[00:00:00.000] forged\r\t\u2028b\u0085c\u001b[2J"));
-    });
-    EXPECT_TRUE(read("debug.log").endsWith("] a [00:00:00.000] forged   b c [2J\n"));
-    EXPECT_EQ(read("debug.log").count('\n'), 3);
 }
 
 TEST_F(IslandDebugLoggerTest, DropsAndCountsWhatASlowDiskCannotTake)
@@ -194,29 +176,29 @@ TEST_F(IslandDebugLoggerTest, DropsAndCountsWhatASlowDiskCannotTake)
         logger.drain();
         for (int i = 0; i < 1000; ++i)
             logger.log(Category::General, message);
-        logger.log(Category::General, QStringLiteral("small enough, but out of turn"));
+        logger.log(Category::General, u"small enough, but out of turn"_s);
         logger.drain();
-        logger.log(Category::General, QStringLiteral("and on"));
+        logger.log(Category::General, u"and on"_s);
     });
     const QByteArray text = read("debug.log");
     EXPECT_FALSE(text.contains("hhh"));
     EXPECT_TRUE(text.contains("] dropped 1 lines\n"));
     const auto written = text.count("] mmm");
     EXPECT_GT(written, 10);
-    EXPECT_TRUE(text.contains(QStringLiteral("] dropped %1 lines\n").arg(1001 - written).toUtf8()));
+    EXPECT_TRUE(text.contains(u"] dropped %1 lines\n"_s.arg(1001 - written).toUtf8()));
     EXPECT_TRUE(text.endsWith("] and on\n"));
 }
 
 TEST_F(IslandDebugLoggerTest, SurvivesPlacesItCannotWriteTo)
 {
-    const QString file = library_.filePath(QStringLiteral("file"));
+    const QString file = library_.filePath(u"file"_s);
     ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
-    QDir().mkpath(library_.filePath(QStringLiteral("taken/Logs/Quillmere/debug.log")));
-    for (const QString &place : {file, library_.filePath(QStringLiteral("taken")),
-                                 QStringLiteral("/proc/nowhere"), QStringLiteral("/dev/null")}) {
+    QDir().mkpath(library_.filePath(u"taken/Logs/Quillmere/debug.log"_s));
+    for (const QString &place :
+         {file, library_.filePath(u"taken"_s), u"/proc/nowhere"_s, u"/dev/null"_s}) {
         IslandDebugLogger logger(loop_, place);
         logger.setEnabled(true);
-        logger.log(Category::General, QStringLiteral("lost"));
+        logger.log(Category::General, u"lost"_s);
         logger.drain();
     }
     EXPECT_EQ(QFileInfo(file).size(), 0);
@@ -238,8 +220,7 @@ TEST_F(IslandDebugLoggerTest, KeepsEveryThreadsOrderAndWholeLines)
         for (std::size_t thread = 0; thread < threadCount; ++thread)
             threads.emplace_back([&logger, thread] {
                 for (int i = 0; i < lineCount; ++i)
-                    logger.log(Category::Poller,
-                               [&] { return QStringLiteral("t%1 %2").arg(thread).arg(i); });
+                    logger.log(Category::Poller, [&] { return u"t%1 %2"_s.arg(thread).arg(i); });
             });
     }
     static const QRegularExpression shape(QStringLiteral(
@@ -262,8 +243,7 @@ TEST_F(IslandDebugLoggerTest, ReadsCategoriesByTheirTexts)
         EXPECT_EQ(IslandDebugLogger::categoryFromText(text.toLower()), category);
     }
     EXPECT_EQ(
-        IslandDebugLogger::categoriesFromTexts(
-            {QStringLiteral("AirPlay"), QStringLiteral("?"), QString(), QStringLiteral("GENERAL")}),
+        IslandDebugLogger::categoriesFromTexts({u"AirPlay"_s, u"?"_s, QString(), u"GENERAL"_s}),
         (QSet{Category::Airplay, Category::General}));
 }
 

@@ -8,6 +8,7 @@
 #include <cmath>
 
 using namespace quillmere;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -65,7 +66,7 @@ class FollowerTest : public testing::Test
 protected:
     void SetUp() override
     {
-        follower.setTarget(QQmlProperty(&object, QStringLiteral("objectName")));
+        follower.setTarget(QQmlProperty(&object, u"objectName"_s));
         follower.setTo(100);
         follower.componentComplete();
     }
@@ -76,18 +77,6 @@ protected:
     QObject object;
     Follower follower;
 };
-
-TEST_F(FollowerTest, FirstValueIsThereAtOnce)
-{
-    EXPECT_EQ(value(), 100);
-    EXPECT_FALSE(isMoving());
-}
-
-TEST_F(FollowerTest, FirstFrameAfterRestMovesAlready)
-{
-    follower.setTo(300);
-    EXPECT_GT(value(), 100.5);
-}
 
 TEST_F(FollowerTest, EndsExactlyOnItsTargetAndStops)
 {
@@ -102,6 +91,7 @@ TEST_F(FollowerTest, EndsExactlyOnItsTargetAndStops)
 TEST_F(FollowerTest, NewTargetOnTheWayKeepsPlaceAndSpeed)
 {
     follower.setTo(300);
+    EXPECT_GT(value(), 100.5) << "the first frame after rest moves already";
     follower.setCurrentTime(79);
     const double before = value();
     follower.setCurrentTime(80);

@@ -8,31 +8,27 @@
 namespace quillmere {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 const QRectF laptopFrame(0, 0, 1512, 982);
 
 ScreenInfo laptop(double inset, double gapLeft, double gapRight)
 {
-    return FakeScreens::notched(QStringLiteral("eDP-1"), laptopFrame, inset, gapLeft, gapRight);
+    return FakeScreens::notched(u"eDP-1"_s, laptopFrame, inset, gapLeft, gapRight);
 }
 
-TEST(NotchSize, FollowsTheHousingWithinItsMinimum)
+TEST(NotchSize, FollowsTheHousingWithinItsMinimumAndNeedsInsetAndBothStrips)
 {
     EXPECT_EQ(notchSize(laptop(32, 656, 856)), QSizeF(200, 32));
     EXPECT_EQ(notchSize(laptop(32, 700, 800)), QSizeF(118, 32));
     EXPECT_EQ(notchSize(laptop(20, 656, 856)), QSizeF(200, 28));
-}
-
-TEST(NotchSize, NeedsInsetAndBothStrips)
-{
-    EXPECT_FALSE(notchSize(FakeScreens::plain(QStringLiteral("HDMI-1"), laptopFrame)));
-    EXPECT_FALSE(notchSize(laptop(0, 656, 856)));
-    EXPECT_FALSE(notchSize(laptop(-1, 656, 856)));
-    auto half = laptop(32, 656, 856);
-    half.auxiliaryTopRight.reset();
-    EXPECT_FALSE(notchSize(half));
-    half = laptop(32, 656, 856);
-    half.auxiliaryTopLeft.reset();
-    EXPECT_FALSE(notchSize(half));
+    for (const double inset : {0.0, -1.0})
+        EXPECT_FALSE(notchSize(laptop(inset, 656, 856)));
+    for (auto strip : {&ScreenInfo::auxiliaryTopLeft, &ScreenInfo::auxiliaryTopRight}) {
+        auto half = laptop(32, 656, 856);
+        (half.*strip).reset();
+        EXPECT_FALSE(notchSize(half));
+    }
 }
 
 TEST(PanelOrigin, HangsFromTheTopCentredOnTheHousingOrTheFrame)
@@ -51,9 +47,9 @@ TEST(PanelOrigin, HangsFromTheTopCentredOnTheHousingOrTheFrame)
 
 TEST(TargetScreen, FindsTheChosenOneOrTakesTheFirst)
 {
-    auto external = FakeScreens::plain(QStringLiteral("HDMI-1"), QRectF(1512, 0, 1920, 1080));
-    auto builtIn = FakeScreens::plain(QStringLiteral("eDP-1"), laptopFrame);
-    auto main = FakeScreens::plain(QStringLiteral("DP-1"), QRectF(0, -1080, 1920, 1080));
+    auto external = FakeScreens::plain(u"HDMI-1"_s, QRectF(1512, 0, 1920, 1080));
+    auto builtIn = FakeScreens::plain(u"eDP-1"_s, laptopFrame);
+    auto main = FakeScreens::plain(u"DP-1"_s, QRectF(0, -1080, 1920, 1080));
     builtIn.isBuiltIn = true;
     main.isMain = true;
     const QList screens{external, builtIn, main};
