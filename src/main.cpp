@@ -5,10 +5,13 @@
 #include "platform/linux/core/XdgPaths.h"
 #include "platform/linux/dbus/DBusService.h"
 #include "platform/linux/dbus/LaunchRequest.h"
+#include "views/DashboardModel.h"
+#include "views/Glyphs.h"
 #include "views/IslandModel.h"
 #include "views/IslandWindow.h"
 
 #include <QCommandLineParser>
+#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QSessionManager>
 
@@ -18,20 +21,27 @@ using namespace quillmere;
 
 namespace {
 
+TrayIcon trayIcon(const QString &symbol)
+{
+    Glyphs &glyphs = Glyphs::shared();
+    if (!glyphs.contains(symbol))
+        return {};
+    TrayIcon icon = installedTrayIcon(Glyphs::iconName(symbol));
+    for (const int size : {22, 24, 44})
+        icon.images.append(glyphs.image(symbol, size, Qt::white));
+    return icon;
+}
+
 /// The running program: window, services, application and view, taken down in reverse.
 class Program
 {
 public:
     Program(RunLoop &runLoop, DBusService &bus)
         : bus_(bus)
-        , platform_(runLoop, window_, bus.statePublisher(), bus.remoteControl())
-        , app_(platform_.services(), xdg::stateHome())
+        , platform_(runLoop, window_, bus, &trayIcon)
+        , app_(platform_.services(), xdg::stateHome(), QStringLiteral(QUILLMERE_VERSION))
     {
-        app_.appDelegate().onIslandCreated = [this](FloatingPanel &panel,
-                                                    ContentView &contentView) {
-            model_.emplace(app_.hudManager(), contentView, panel, app_.settings());
-            window_.setIsland(&*model_);
-        };
+        app_.appDelegate().onIslandCreated = [this](Island island) { show(island); };
         app_.launch([this] { bus_.stop([] { QCoreApplication::quit(); }); });
     }
 
@@ -39,7 +49,7 @@ public:
     {
         app_.terminate();
         platform_.flush();
-        window_.setIsland(nullptr);
+        window_.clearIsland();
     }
 
     void terminate() { app_.appDelegate().terminate(); }
@@ -47,11 +57,31 @@ public:
     void save() { platform_.flush(); }
 
 private:
+    void show(Island island)
+    {
+        Platform &services = platform_.services();
+        AppDelegate &delegate = app_.appDelegate();
+        model_.emplace(app_.hudManager(), island.contentView, island.panel, app_.settings(),
+                       services.appearance);
+        dashboard_.emplace(services.runLoop, app_.settings(), app_.hudManager(), island.contentView,
+                           island.outputPicker, island.fileTray, services.appearance);
+        const auto openLink = [](const QUrl &link) { QDesktopServices::openUrl(link); };
+        QObject::connect(&*model_, &IslandModel::linkActivated, openLink);
+        QObject::connect(&*dashboard_, &DashboardModel::linkActivated, openLink);
+        QObject::connect(&*model_, &IslandModel::dragOverChanged,
+                         [&delegate](bool over) { delegate.islandDragChanged(over); });
+        QObject::connect(
+            &*model_, &IslandModel::filesDropped,
+            [&delegate](const QList<QUrl> &files) { delegate.filesDroppedOnIsland(files); });
+        window_.setIsland(*model_, *dashboard_);
+    }
+
     DBusService &bus_;
     IslandWindow window_;
     LinuxPlatform platform_;
     QuillmereApp app_;
     std::optional<IslandModel> model_;
+    std::optional<DashboardModel> dashboard_;
 };
 
 /// The exit status, or nothing when the program is to start with `uris`.
@@ -91,9 +121,6 @@ void prepareEnvironment()
 {
     // libpulse runs on the GLib main loop that Qt's dispatcher drives.
     qunsetenv("QT_NO_GLIB");
-    // The panel is an X11 window, on a Wayland desktop through its X server.
-    if (qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
     // An island that draws a few pixels now and then needs no GPU stack in memory.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
@@ -111,7 +138,9 @@ int main(int argc, char **argv)
 
     prepareEnvironment();
     const LaunchRequest request{uris, platformDataFromEnvironment()};
+    std::optional<WindowSystemChoice> choice(std::in_place);
     QGuiApplication application(argc, argv);
+    choice.reset();
     QGuiApplication::setApplicationName(QStringLiteral("quillmere"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Quillmere"));
     QGuiApplication::setApplicationVersion(QStringLiteral(QUILLMERE_VERSION));

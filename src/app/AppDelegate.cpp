@@ -1,16 +1,35 @@
 #include "app/AppDelegate.h"
 
+#include "app/AppEvents.h"
+#include "app/AudioOutputPicker.h"
+#include "app/DeviceHUD.h"
+#include "app/FileDragWatcher.h"
+#include "app/FileDrop.h"
+#include "app/FileTray.h"
+#include "app/StatusMenu.h"
+#include "app/UpdateHUD.h"
+#include "app/Updater.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
+#include "island/IslandGestures.h"
+#include "monitors/AudioOutputMonitor.h"
+#include "monitors/BrightnessMonitor.h"
 #include "monitors/VolumeMonitor.h"
 #include "platform/AudioHardware.h"
+#include "platform/Endpoints.h"
 #include "platform/Screens.h"
+#include "platform/StatusItem.h"
+#include "platform/Symbols.h"
 #include "settings/SettingsStore.h"
 
 namespace quillmere {
 
 namespace {
+
+/// A sound server that has just started offers a placeholder, then its own devices, then those that
+/// connect by themselves. Where that ends is where new devices begin.
+constexpr Duration soundServerSettles = std::chrono::seconds(3);
 
 /// Calls `apply` after every change of the setting, until the Task is gone.
 template <class Setting, class Apply>
@@ -26,10 +45,13 @@ Task subscribe(SettingsStore &settings, const Setting &setting, QObject *context
 
 } // namespace
 
-AppDelegate::AppDelegate(Platform &platform, SettingsStore &settings, HUDManager &hudManager)
+AppDelegate::AppDelegate(Platform &platform, SettingsStore &settings, HUDManager &hudManager,
+                         IslandDebugLogger &debugLogger, QString version)
     : platform_(platform)
     , settings_(settings)
     , hudManager_(hudManager)
+    , debugLogger_(debugLogger)
+    , version_(std::move(version))
 {
 }
 
@@ -37,11 +59,44 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching()
 {
+    createUpdater();
+    createStatusItem();
     createIsland();
     createMonitors();
+    createFileDragWatcher();
     subscribeToSettings();
     screenParametersObserver_ =
         platform_.screens.onParametersChanged([this] { floatingPanel_->displaysDidChange(); });
+}
+
+void AppDelegate::createUpdater()
+{
+    updaterController_ = std::make_unique<Updater>(platform_.runLoop, platform_.httpClient,
+                                                   platform_.userDefaults, platform_.localDefaults,
+                                                   endpoint(EndpointName::UpdateFeed), version_);
+    const auto show = [this](HUDContent hud) {
+        hudManager_.show(std::move(hud), false, updateHUDDuration);
+    };
+    updaterController_->onUpdateFound = [show](const Update &update) {
+        show(updateFoundHUD(update));
+    };
+    updaterController_->onUpToDate = [show] { show(upToDateHUD()); };
+    updaterController_->onFailure = [show](const QString &text) { show(updateFailedHUD(text)); };
+    updaterController_->startUpdater();
+}
+
+void AppDelegate::createStatusItem()
+{
+    const StatusMenuActions actions{
+        .showIsland = [this] { showIsland(); },
+        .refreshNowPlaying = [] {},
+        .checkForUpdates = [this] { checkForUpdates(); },
+        .openSettings = [this] { platform_.notificationCenter.post(events::openSettingsRequest); },
+        .quit = [this] { terminate(); }};
+    platform_.statusItem.show({.symbol = QString(symbols::island),
+                               .accessibilityDescription = QStringLiteral("Quillmere"),
+                               .menu = statusMenu(actions),
+                               .onActivate = [this] { showIsland(); }});
 }
 
 void AppDelegate::createIsland()
@@ -52,15 +107,27 @@ void AppDelegate::createIsland()
     floatingPanel_->onCollapsedScroll = [this](double steps) {
         scrolledOverCollapsedIsland(steps);
     };
-    contentView_ = std::make_unique<ContentView>(hudManager_, *floatingPanel_);
+    contentView_ = std::make_unique<ContentView>(platform_.runLoop, settings_, hudManager_,
+                                                 *floatingPanel_, platform_.notificationCenter,
+                                                 platform_.haptics, debugLogger_);
+    gestures_ = std::make_unique<IslandGestures>(
+        platform_.runLoop, settings_, platform_.notificationCenter, hudManager_, *contentView_);
+    floatingPanel_->takesScroll = [this](const ScrollEvent &event) {
+        return gestures_ && gestures_->takesScroll(event);
+    };
+    outputPicker_ =
+        std::make_unique<AudioOutputPicker>(platform_.audioHardware, platform_.notificationCenter);
+    fileTray_ = std::make_unique<FileTray>(settings_);
     if (onIslandCreated)
-        onIslandCreated(*floatingPanel_, *contentView_);
+        onIslandCreated({*floatingPanel_, *contentView_, *outputPicker_, *fileTray_});
     floatingPanel_->displaysDidChange();
 }
 
 void AppDelegate::createMonitors()
 {
     createVolumeMonitor();
+    createBrightnessMonitor();
+    createAudioOutputMonitor();
 }
 
 void AppDelegate::createVolumeMonitor()
@@ -79,6 +146,55 @@ void AppDelegate::createVolumeMonitor()
         volumeMonitor_->start();
 }
 
+void AppDelegate::createBrightnessMonitor()
+{
+    brightnessMonitor_ =
+        std::make_unique<BrightnessMonitor>(platform_.runLoop, platform_.displayBrightness);
+    // The drift of automatic brightness goes by without a HUD.
+    brightnessMonitor_->onBrightnessChange = [this](double percent) { brightnessChanged(percent); };
+    brightnessMonitor_->start();
+}
+
+void AppDelegate::createAudioOutputMonitor()
+{
+    deviceHUD_ = std::make_unique<DeviceHUD>(settings_, hudManager_, platform_.audioHardware,
+                                             platform_.bluetoothBatteries);
+    outputAvailability_ = platform_.audioHardware.onAvailabilityChanged(
+        [this](bool available) { soundServerChanged(available); });
+    soundServerChanged(platform_.audioHardware.isAvailable());
+}
+
+void AppDelegate::soundServerChanged(bool available)
+{
+    if (!available) {
+        outputSettling_.cancel();
+        audioOutputMonitor_.reset();
+        return;
+    }
+    if (outputSettling_) // set for the whole life of a connection
+        return;
+    outputSettling_ = platform_.runLoop.after(soundServerSettles, [this] {
+        audioOutputMonitor_ =
+            std::make_unique<AudioOutputMonitor>(platform_.runLoop, platform_.audioHardware);
+        audioOutputMonitor_->onBluetoothDeviceConnected = [this](const QString &name,
+                                                                 bool isAirPods) {
+            bluetoothDeviceConnected(name, isAirPods);
+        };
+        audioOutputMonitor_->start();
+    });
+}
+
+void AppDelegate::createFileDragWatcher()
+{
+    fileDragWatcher_ = std::make_unique<FileDragWatcher>(platform_.runLoop, platform_.globalEvents,
+                                                         platform_.dragPasteboard,
+                                                         platform_.notificationCenter, settings_);
+    fileDroppedObserver_ = platform_.notificationCenter.observe(
+        events::fileDropped,
+        [this](const QVariantMap &userInfo) { fileDropped(droppedFiles(userInfo)); });
+    fileDragWatcher_->start();
+}
+
 void AppDelegate::subscribeToSettings()
 {
     hideFromScreenCaptureCancellable_ =
@@ -91,10 +207,34 @@ void AppDelegate::subscribeToSettings()
 
 void AppDelegate::volumeChanged(double percent)
 {
-    if (!settings_.showVolumeHUD.get() || !settings_.soundHUDsEnabled.get() ||
-        floatingPanel_->suppressesHUDs())
+    if (!settings_.showVolumeHUD.get() || !settings_.soundHUDsEnabled.get() || hudsAreSuppressed())
         return;
     hudManager_.showVolume(percent, settings_.volumeHUDDuration.get());
+}
+
+void AppDelegate::brightnessChanged(double percent)
+{
+    if (!settings_.showBrightnessHUD.get() || !settings_.displayHUDsEnabled.get() ||
+        hudsAreSuppressed())
+        return;
+    hudManager_.showBrightness(percent, settings_.brightnessHUDDuration.get());
+}
+
+void AppDelegate::bluetoothDeviceConnected(const QString &name, bool isAirPods)
+{
+    if (settings_.showBluetoothHUD.get() && !hudsAreSuppressed())
+        deviceHUD_->show(name, isAirPods);
+}
+
+void AppDelegate::fileDropped(const QList<QUrl> &files)
+{
+    fileTray_->add(files);
+    hudManager_.show(fileAddedHUD(files), false, fileAddedDuration);
+}
+
+bool AppDelegate::hudsAreSuppressed() const
+{
+    return floatingPanel_->suppressesHUDs();
 }
 
 void AppDelegate::scrolledOverCollapsedIsland(double steps)
@@ -112,6 +252,23 @@ void AppDelegate::showIsland()
         floatingPanel_->orderFront();
 }
 
+void AppDelegate::checkForUpdates()
+{
+    if (updaterController_)
+        updaterController_->checkForUpdates();
+}
+
+void AppDelegate::islandDragChanged(bool over)
+{
+    if (fileDragWatcher_)
+        fileDragWatcher_->islandDragChanged(over);
+}
+
+void AppDelegate::filesDroppedOnIsland(const QList<QUrl> &files)
+{
+    platform_.notificationCenter.post(events::fileDropped, fileDropInfo(files));
+}
+
 void AppDelegate::terminate()
 {
     if (onTerminate)
@@ -120,12 +277,24 @@ void AppDelegate::terminate()
 
 void AppDelegate::applicationWillTerminate()
 {
+    if (fileDragWatcher_)
+        fileDragWatcher_->stop();
     screenParametersObserver_.cancel();
+    fileDroppedObserver_.cancel();
+    gestures_.reset();
     audioAvailability_.cancel();
     if (volumeMonitor_)
         volumeMonitor_->stop();
+    if (brightnessMonitor_)
+        brightnessMonitor_->stop();
+    if (outputPicker_)
+        outputPicker_->stop();
+    outputAvailability_.cancel();
+    soundServerChanged(false);
     hideFromScreenCaptureCancellable_.cancel();
     hideInMissionControlCancellable_.cancel();
+    updaterController_.reset();
+    platform_.statusItem.remove();
 }
 
 } // namespace quillmere

@@ -3,7 +3,9 @@
 #include "platform/Platform.h"
 #include "platform/Task.h"
 
+#include <QList>
 #include <QObject>
+#include <QUrl>
 
 #include <functional>
 #include <memory>
@@ -11,11 +13,29 @@
 
 namespace quillmere {
 
+class AudioOutputMonitor;
+class AudioOutputPicker;
+class BrightnessMonitor;
 class ContentView;
+class DeviceHUD;
+class FileDragWatcher;
+class FileTray;
 class FloatingPanel;
 class HUDManager;
+class IslandDebugLogger;
+class IslandGestures;
 class SettingsStore;
+class Updater;
 class VolumeMonitor;
+struct HUDContent;
+
+/// The island and what it shows, for the views.
+struct Island {
+    FloatingPanel &panel;
+    ContentView &contentView;
+    AudioOutputPicker &outputPicker;
+    FileTray &fileTray;
+};
 
 /// The start-up and shutdown spine: creates every long-lived object in a fixed order, connects the
 /// monitors' callbacks to the HUD manager, follows screen changes, and takes everything down at
@@ -23,7 +43,8 @@ class VolumeMonitor;
 class AppDelegate : public QObject
 {
 public:
-    AppDelegate(Platform &platform, SettingsStore &settings, HUDManager &hudManager);
+    AppDelegate(Platform &platform, SettingsStore &settings, HUDManager &hudManager,
+                IslandDebugLogger &debugLogger, QString version);
     ~AppDelegate() override;
 
     void applicationDidFinishLaunching();
@@ -31,6 +52,13 @@ public:
 
     /// Brings the island to the front, whichever application is active.
     void showIsland();
+
+    /// Looks for a newer version now and shows the outcome.
+    void checkForUpdates();
+
+    /// What a drag over the island itself does; a drop posts "QuillmereFileDropped".
+    void islandDragChanged(bool over);
+    void filesDroppedOnIsland(const QList<QUrl> &files);
 
     /// Asks the program to quit; the answer is applicationWillTerminate().
     void terminate();
@@ -42,24 +70,47 @@ public:
     std::function<void()> onTerminate;
 
     /// The island exists and can be given its content.
-    std::function<void(FloatingPanel &panel, ContentView &contentView)> onIslandCreated;
+    std::function<void(Island island)> onIslandCreated;
 
 private:
+    void createUpdater();
+    void createStatusItem();
     void createIsland();
     void createMonitors();
     void createVolumeMonitor();
+    void createBrightnessMonitor();
+    void createAudioOutputMonitor();
+    void createFileDragWatcher();
     void subscribeToSettings();
     void volumeChanged(double percent);
+    void brightnessChanged(double percent);
+    void soundServerChanged(bool available);
+    void bluetoothDeviceConnected(const QString &name, bool isAirPods);
+    void fileDropped(const QList<QUrl> &files);
+    bool hudsAreSuppressed() const;
     void scrolledOverCollapsedIsland(double steps);
 
     Platform &platform_;
     SettingsStore &settings_;
     HUDManager &hudManager_;
+    IslandDebugLogger &debugLogger_;
+    const QString version_;
 
     std::unique_ptr<FloatingPanel> floatingPanel_;
     std::unique_ptr<ContentView> contentView_;
+    std::unique_ptr<IslandGestures> gestures_;
+    std::unique_ptr<AudioOutputPicker> outputPicker_;
+    std::unique_ptr<FileTray> fileTray_;
+    std::unique_ptr<FileDragWatcher> fileDragWatcher_;
     std::unique_ptr<VolumeMonitor> volumeMonitor_;
+    std::unique_ptr<BrightnessMonitor> brightnessMonitor_;
+    std::unique_ptr<AudioOutputMonitor> audioOutputMonitor_;
+    std::unique_ptr<DeviceHUD> deviceHUD_;
+    std::unique_ptr<Updater> updaterController_;
     Task audioAvailability_;
+    Task outputAvailability_;
+    Task outputSettling_;
+    Task fileDroppedObserver_;
     Task hideFromScreenCaptureCancellable_;
     Task hideInMissionControlCancellable_;
     Task screenParametersObserver_;

@@ -14,7 +14,11 @@ inline constexpr QLatin1StringView airPlayPickerDismissed{"QuillmereAirPlayPicke
 inline constexpr QLatin1StringView islandTapped{"QuillmereIslandTapped"};
 inline constexpr QLatin1StringView dragEntered{"QuillmereDragEntered"};
 inline constexpr QLatin1StringView dragExited{"QuillmereDragExited"};
+
+/// Carries the local files that were dropped on the island, as a QList<QUrl>.
 inline constexpr QLatin1StringView fileDropped{"QuillmereFileDropped"};
+inline constexpr QLatin1StringView droppedFiles{"files"};
+
 inline constexpr QLatin1StringView lockScreenDismissRequested{"lockScreenDismissRequested"};
 
 /// Carries the direction of a horizontal scroll over the island.

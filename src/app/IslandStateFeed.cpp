@@ -59,6 +59,9 @@ IslandStateFeed::IslandStateFeed(StatePublisher &publisher, HUDManager &hudManag
         publisher.publish(QStringLiteral("Presentation"),
                           presentationName(contentView.presentation()));
     });
+    feed(contentView.pages(), &IslandPages::pageChanged, [&publisher, &contentView] {
+        publisher.publish(QStringLiteral("Page"), islandPageName(contentView.pages().islandPage()));
+    });
     feed(hudManager, &HUDManager::currentHUDChanged, [&publisher, &hudManager] {
         publisher.publish(QStringLiteral("CurrentHUD"), hudOrNothing(hudManager.currentHUD()));
     });

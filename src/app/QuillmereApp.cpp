@@ -4,14 +4,15 @@
 
 namespace quillmere {
 
-QuillmereApp::QuillmereApp(Platform &platform, const QString &libraryDirectory)
+QuillmereApp::QuillmereApp(Platform &platform, const QString &libraryDirectory,
+                           const QString &version)
     : platform_(platform)
     , debugLogger_(platform.runLoop, libraryDirectory)
     , debugLogSwitch_(platform.localDefaults, debugLogger_)
     , settings_(platform.userDefaults, platform.cloudStore, platform.loginItem,
                 platform.notificationCenter)
     , hudManager_(platform.runLoop, settings_, debugLogger_)
-    , appDelegate_(platform, settings_, hudManager_)
+    , appDelegate_(platform, settings_, hudManager_, debugLogger_, version)
 {
 }
 

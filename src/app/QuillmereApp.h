@@ -18,7 +18,7 @@ class QuillmereApp
 {
 public:
     /// `libraryDirectory` is where the log folder goes.
-    QuillmereApp(Platform &platform, const QString &libraryDirectory);
+    QuillmereApp(Platform &platform, const QString &libraryDirectory, const QString &version);
 
     /// Launches the delegate. `onTerminate` is called when the user asks the program to quit.
     void launch(std::function<void()> onTerminate);

@@ -16,6 +16,9 @@ RemoteActions::RemoteActions(RemoteControl &remoteControl, NotificationCenter &n
           {QStringLiteral("show-island"), [&delegate] { delegate.showIsland(); }},
           {QStringLiteral("toggle-island"),
            [&notificationCenter] { notificationCenter.post(events::islandTapped); }},
+          {QStringLiteral("check-for-updates"), [&delegate] { delegate.checkForUpdates(); }},
+          {QStringLiteral("settings"),
+           [&notificationCenter] { notificationCenter.post(events::openSettingsRequest); }},
           {QStringLiteral("quit"), [&delegate] { delegate.terminate(); }},
       }
 {

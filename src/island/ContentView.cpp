@@ -1,11 +1,49 @@
 #include "island/ContentView.h"
 
+#include "app/AppEvents.h"
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
+#include "island/IslandDebugLogger.h"
+#include "platform/Haptics.h"
+#include "platform/NotificationCenter.h"
+#include "settings/SettingsStore.h"
 
+#include <algorithm>
 #include <array>
 
 namespace quillmere {
+
+namespace {
+
+constexpr QSizeF dashboardSize{600, 220};
+constexpr double wingWidth = 44;
+
+/// Brushing past the edge does not start the countdown.
+constexpr Duration hoverOutGrace = std::chrono::milliseconds(350);
+
+/// A collapse that is held up looks again after this at the soonest, whatever the setting says.
+constexpr Duration shortestRearm = hoverOutGrace;
+
+bool isLevel(HUDContent::HUDType type)
+{
+    return type == HUDContent::HUDType::Volume || type == HUDContent::HUDType::Brightness;
+}
+
+QLatin1StringView truth(bool value)
+{
+    return value ? QLatin1StringView("true") : QLatin1StringView("false");
+}
+
+/// Shortest text that reads back as the same number, with at least one decimal.
+QString decimal(double value)
+{
+    const QString text = QString::number(value, 'g', QLocale::FloatingPointShortest);
+    const bool whole =
+        std::all_of(text.begin(), text.end(), [](QChar c) { return c.isDigit() || c == u'-'; });
+    return whole ? text + u".0" : text;
+}
+
+} // namespace
 
 QString presentationName(Presentation presentation)
 {
@@ -29,32 +67,299 @@ QSizeF hudSize(HUDContent::HUDType type)
     }
 }
 
-ContentView::ContentView(HUDManager &hudManager, FloatingPanel &panel)
-    : hudManager_(hudManager)
+ContentView::ContentView(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
+                         FloatingPanel &panel, NotificationCenter &notificationCenter,
+                         Haptics &haptics, IslandDebugLogger &logger)
+    : runLoop_(runLoop)
+    , settings_(settings)
+    , hudManager_(hudManager)
     , panel_(panel)
+    , haptics_(haptics)
+    , logger_(logger)
+    , pages_(runLoop)
 {
-    connect(&hudManager_, &HUDManager::currentHUDChanged, this, &ContentView::update);
-    connect(&panel_, &FloatingPanel::collapsedSizeChanged, this, &ContentView::update);
-    update();
+    observe(notificationCenter);
+    offerPages();
+    updateSize();
 }
 
-void ContentView::update()
+void ContentView::observe(NotificationCenter &notificationCenter)
+{
+    const auto on = [&](QLatin1StringView name, void (ContentView::*handler)()) {
+        observers_.push_back(notificationCenter.observe(
+            name, [this, handler](const QVariantMap &) { (this->*handler)(); }));
+    };
+    on(events::islandTapped, &ContentView::toggle);
+    on(events::airPlayPickerShown, &ContentView::pickerShown);
+    on(events::airPlayPickerDismissed, &ContentView::pickerDismissed);
+    on(events::dragEntered, &ContentView::dragEntered);
+    on(events::dragExited, &ContentView::dragExited);
+
+    connect(&hudManager_, &HUDManager::hudPresented, this, &ContentView::hudPresented);
+    connect(&panel_, &FloatingPanel::collapsedSizeChanged, this, &ContentView::updateSize);
+    const auto wingsChanged = [this] {
+        updateSize();
+        Q_EMIT idleActivityChanged();
+    };
+    connect(&hudManager_, &HUDManager::hudQueueChanged, this, wingsChanged);
+    connect(&hudManager_, &HUDManager::currentQueueIndexChanged, this, wingsChanged);
+    connect(&settings_, &SettingsStore::didChange, this, [this, wingsChanged](const QString &key) {
+        if (key == settings_.showFileTray.key())
+            offerPages();
+        else if (key == settings_.idleActivityMostRecent.key())
+            wingsChanged();
+    });
+}
+
+void ContentView::offerPages()
+{
+    QList<IslandPage> pages{IslandPage::Main};
+    if (settings_.showFileTray.get())
+        pages.append(IslandPage::FileTray);
+    pages_.offer(pages);
+}
+
+Presentation ContentView::presentation() const
+{
+    if (!isExpanded_)
+        return Presentation::Collapsed;
+    return userExpanded_ ? Presentation::Expanded : Presentation::HUD;
+}
+
+std::optional<HUDContent> ContentView::idleActivity() const
+{
+    const auto &queue = hudManager_.hudQueue();
+    if (!settings_.idleActivityMostRecent.get() || queue.isEmpty())
+        return std::nullopt;
+    return queue.at(hudManager_.currentQueueIndex());
+}
+
+void ContentView::pointerEntered()
+{
+    pointerInside_ = true;
+    if (!isExpanded_) {
+        if (settings_.expandNotchOnHover.get())
+            expandAsUser();
+        return;
+    }
+    logCollapse(QStringLiteral("HOVER_IN — cancelling collapse"));
+    cancelCollapse();
+}
+
+void ContentView::pointerExited()
+{
+    pointerInside_ = false;
+    if (!isExpanded_)
+        return;
+    logger_.log(IslandDebugLogger::Category::Collapse, [this] {
+        return QString(u"HOVER_OUT — will schedule collapse in 0.35s (airPlayOpen=" +
+                       truth(airPlayPickerOpen_) + u")");
+    });
+    hoverOutChecks_.push_back(runLoop_.after(hoverOutGrace, [this] {
+        const Task finished = std::move(hoverOutChecks_.front());
+        hoverOutChecks_.pop_front();
+        if (airPlayPickerOpen_) {
+            logCollapse(QStringLiteral("HOVER_OUT_DELAYED — popover is open, skipping collapse"));
+            return;
+        }
+        logCollapse(u"HOVER_OUT_DELAYED — scheduling collapse delay=" +
+                    decimal(settings_.autoCollapseDelay.get()));
+        scheduleCollapse();
+    }));
+}
+
+void ContentView::toggle()
+{
+    cancelCollapse();
+    if (isExpanded_) {
+        playHaptic();
+        logCollapse(QStringLiteral("TOGGLE isExpanded=false userExpanded=false"));
+        collapse();
+    } else {
+        expandAsUser();
+    }
+}
+
+void ContentView::expandAsUser()
+{
+    playHaptic();
+    logCollapse(QStringLiteral("TOGGLE isExpanded=true userExpanded=true"));
+    setState(true, true);
+    scheduleCollapse();
+}
+
+void ContentView::hudPresented()
 {
     const auto &hud = hudManager_.currentHUD();
-    const auto presentation = hud ? Presentation::HUD : Presentation::Collapsed;
-    const QSizeF size =
-        hud ? hudSize(hud->type) + QSizeF(0, panel_.housingHeight()) : panel_.collapsedSize();
+    if (!hud)
+        return;
+    // The same HUD shown again only lasts longer, unless it has collapsed meanwhile.
+    const bool isNew = hud != lastHUD_ || !isExpanded_;
+    lastHUD_ = hud;
+    if (userExpanded_ && isLevel(hud->type)) {
+        if (isNew)
+            logCollapse(
+                QStringLiteral("SKIPPING volume/brightness expand — user is browsing pages"));
+        return;
+    }
+    if (isNew) {
+        playHaptic();
+        logCollapse(QStringLiteral("EXPAND_TEMP"));
+        shownHUD_ = hud;
+        setState(true, false);
+        Q_EMIT shownHUDChanged();
+    }
+    scheduleCollapse(seconds(hudManager_.currentHUDDuration()));
+}
+
+void ContentView::pickerShown()
+{
+    logger_.log(IslandDebugLogger::Category::Airplay,
+                QStringLiteral("PICKER_SHOWN — cancelling collapse"));
+    airPlayPickerOpen_ = true;
+    cancelCollapse();
+}
+
+void ContentView::pickerDismissed()
+{
+    logger_.log(IslandDebugLogger::Category::Airplay,
+                QStringLiteral("PICKER_DISMISSED — scheduling collapse"));
+    airPlayPickerOpen_ = false;
+    if (isExpanded_)
+        scheduleCollapse();
+}
+
+void ContentView::dragEntered()
+{
+    if (isDraggingFile_)
+        return;
+    isDraggingFile_ = true;
+    pageBeforeDrag_ = pages_.islandPage();
+    openedByDrag_ = !isExpanded_;
+    cancelCollapse();
+    pages_.show(IslandPage::FileTray);
+    setState(true, true);
+    Q_EMIT draggingChanged();
+}
+
+void ContentView::dragExited()
+{
+    if (!isDraggingFile_)
+        return;
+    isDraggingFile_ = false;
+    if (pageBeforeDrag_)
+        pages_.show(*pageBeforeDrag_);
+    pageBeforeDrag_.reset();
+    // A HUD for the dropped file has its own time.
+    if (userExpanded_ && openedByDrag_)
+        scheduleCollapse(hoverOutGrace);
+    else if (isExpanded_ && !shownHUD_)
+        scheduleCollapse();
+    Q_EMIT draggingChanged();
+}
+
+void ContentView::dismissHUD()
+{
+    if (!shownHUD_)
+        return;
+    const auto type = shownHUD_->type;
+    cancelCollapse();
+    collapse();
+    hudManager_.dismissCurrentHUD();
+    removeActivity(type);
+}
+
+void ContentView::dismissIdleActivity()
+{
+    if (const auto activity = idleActivity())
+        removeActivity(activity->type);
+}
+
+void ContentView::removeActivity(HUDContent::HUDType type)
+{
+    const auto &queue = hudManager_.hudQueue();
+    const auto found = std::find_if(queue.begin(), queue.end(),
+                                    [&](const HUDContent &entry) { return entry.type == type; });
+    if (found != queue.end())
+        hudManager_.removeActivity(static_cast<int>(found - queue.begin()));
+}
+
+void ContentView::scheduleCollapse(Duration delay)
+{
+    collapseWorkItem_ = runLoop_.after(delay, [this] { collapseDue(); });
+}
+
+void ContentView::scheduleCollapse()
+{
+    scheduleCollapse(seconds(settings_.autoCollapseDelay.get()));
+}
+
+void ContentView::cancelCollapse()
+{
+    collapseWorkItem_.cancel();
+}
+
+void ContentView::collapseDue()
+{
+    if (collapseIsHeldUp())
+        scheduleCollapse(std::max(seconds(settings_.autoCollapseDelay.get()), shortestRearm));
+    else
+        collapse();
+}
+
+void ContentView::collapse()
+{
+    setState(false, false);
+}
+
+bool ContentView::collapseIsHeldUp() const
+{
+    return pointerInside_ || airPlayPickerOpen_ || isDraggingFile_;
+}
+
+void ContentView::setState(bool isExpanded, bool userExpanded)
+{
+    const auto before = presentation();
+    isExpanded_ = isExpanded;
+    userExpanded_ = userExpanded;
+    const bool hudEnded = shownHUD_ && presentation() != Presentation::HUD;
+    if (hudEnded)
+        shownHUD_.reset();
+    updateSize();
+    if (presentation() != before)
+        Q_EMIT presentationChanged();
+    if (hudEnded)
+        Q_EMIT shownHUDChanged();
+}
+
+void ContentView::updateSize()
+{
+    const auto presentation = this->presentation();
+    QSizeF size = panel_.collapsedSize();
+    if (presentation == Presentation::Expanded)
+        size = dashboardSize + QSizeF(0, panel_.housingHeight());
+    else if (shownHUD_)
+        size = hudSize(shownHUD_->type) + QSizeF(0, panel_.housingHeight());
+    else if (idleActivity())
+        size.rwidth() += 2 * wingWidth;
 
     panel_.setIdle(presentation == Presentation::Collapsed);
     panel_.setSize(size);
-    if (size != islandSize_) {
-        islandSize_ = size;
-        Q_EMIT islandSizeChanged();
-    }
-    if (presentation != presentation_) {
-        presentation_ = presentation;
-        Q_EMIT presentationChanged();
-    }
+    if (size == islandSize_)
+        return;
+    islandSize_ = size;
+    Q_EMIT islandSizeChanged();
+}
+
+void ContentView::playHaptic()
+{
+    if (settings_.hapticFeedback.get())
+        haptics_.performFeedback();
+}
+
+void ContentView::logCollapse(const QString &message)
+{
+    logger_.log(IslandDebugLogger::Category::Collapse, message);
 }
 
 } // namespace quillmere

@@ -1,14 +1,23 @@
 #pragma once
 
 #include "island/HUDContent.h"
+#include "island/IslandPages.h"
+#include "platform/RunLoop.h"
 
 #include <QObject>
 #include <QSizeF>
 
+#include <deque>
+#include <optional>
+
 namespace quillmere {
 
 class FloatingPanel;
+class Haptics;
 class HUDManager;
+class IslandDebugLogger;
+class NotificationCenter;
+class SettingsStore;
 
 enum class Presentation { Collapsed, HUD, Expanded };
 
@@ -18,29 +27,104 @@ QString presentationName(Presentation presentation);
 /// How large the island is while it shows a HUD of this type, in logical units.
 QSizeF hudSize(HUDContent::HUDType type);
 
-/// The island's presentation: what it shows and how large it is for that. Main thread only.
+/// The island's presentation: whether it is the pill, a HUD or the dashboard, why, how large that
+/// is, and when it becomes the pill again.
+///
+/// An expansion always ends: a collapse is pending, or the pointer, an open output picker or a file
+/// drag holds it up and arms it again when it leaves. Main thread only.
 class ContentView : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QSizeF islandSize READ islandSize NOTIFY islandSizeChanged)
 
 public:
-    ContentView(HUDManager &hudManager, FloatingPanel &panel);
+    ContentView(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
+                FloatingPanel &panel, NotificationCenter &notificationCenter, Haptics &haptics,
+                IslandDebugLogger &logger);
 
-    Presentation presentation() const { return presentation_; }
+    bool isExpanded() const { return isExpanded_; }
+    /// The present expansion was asked for by the user, not by a HUD.
+    bool userExpanded() const { return userExpanded_; }
+    Presentation presentation() const;
     QSizeF islandSize() const { return islandSize_; }
+
+    /// The HUD of a temporary expansion, present as long as that lasts: a HUD under the pointer
+    /// stays although its time is over.
+    const std::optional<HUDContent> &shownHUD() const { return shownHUD_; }
+
+    /// The activity in the wings of the collapsed pill.
+    std::optional<HUDContent> idleActivity() const;
+
+    bool isDraggingFile() const { return isDraggingFile_; }
+
+    IslandPages &pages() { return pages_; }
+    const IslandPages &pages() const { return pages_; }
+
+    void pointerEntered();
+    void pointerExited();
+
+    /// Opens the dashboard, or closes what is open.
+    void toggle();
+
+    /// Ends the HUD on show and forgets the activity it left behind.
+    void dismissHUD();
+
+    /// Forgets the activity in the wings.
+    void dismissIdleActivity();
 
 Q_SIGNALS:
     void presentationChanged();
     void islandSizeChanged();
+    void shownHUDChanged();
+    void idleActivityChanged();
+    void draggingChanged();
 
 private:
-    void update();
+    void observe(NotificationCenter &notificationCenter);
+    void offerPages();
 
+    void expandAsUser();
+    void hudPresented();
+    void pickerShown();
+    void pickerDismissed();
+    void dragEntered();
+    void dragExited();
+
+    void scheduleCollapse(Duration delay);
+    void scheduleCollapse();
+    void cancelCollapse();
+    void collapseDue();
+    void collapse();
+    bool collapseIsHeldUp() const;
+
+    void setState(bool isExpanded, bool userExpanded);
+    void updateSize();
+    void removeActivity(HUDContent::HUDType type);
+    void playHaptic();
+    void logCollapse(const QString &message);
+
+    RunLoop &runLoop_;
+    SettingsStore &settings_;
     HUDManager &hudManager_;
     FloatingPanel &panel_;
-    Presentation presentation_ = Presentation::Collapsed;
+    Haptics &haptics_;
+    IslandDebugLogger &logger_;
+    IslandPages pages_;
+
+    bool isExpanded_ = false;
+    bool userExpanded_ = false;
+    bool airPlayPickerOpen_ = false;
+    bool pointerInside_ = false;
+    bool isDraggingFile_ = false;
+    bool openedByDrag_ = false;
+    std::optional<IslandPage> pageBeforeDrag_;
+    std::optional<HUDContent> shownHUD_;
+    std::optional<HUDContent> lastHUD_;
     QSizeF islandSize_;
+
+    Task collapseWorkItem_;
+    std::deque<Task> hoverOutChecks_; ///< in the order in which they come due
+    std::deque<Task> observers_;
 };
 
 } // namespace quillmere

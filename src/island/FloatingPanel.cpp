@@ -127,7 +127,8 @@ void FloatingPanel::scrollWheel(const ScrollEvent &event)
             event.deltaX > 0 ? QStringLiteral("left") : QStringLiteral("right");
         notificationCenter_.post(events::islandScrolled, {{events::scrollDirection, direction}});
     }
-    if (size().height() <= collapsedHeightLimit)
+    const bool taken = takesScroll && takesScroll(event);
+    if (!taken && size().height() <= collapsedHeightLimit)
         collapsedScroll(event);
 }
 

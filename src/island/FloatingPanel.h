@@ -1,5 +1,6 @@
 #pragma once
 
+#include "island/ScrollEvent.h"
 #include "platform/GlobalEvents.h"
 #include "platform/NotificationCenter.h"
 #include "platform/PanelWindow.h"
@@ -12,13 +13,6 @@
 #include <optional>
 
 namespace quillmere {
-
-/// A scroll over the island. Positive x is towards the left, positive y away from the user.
-struct ScrollEvent {
-    double deltaX = 0;    ///< in points; 10 units are one notch of a wheel
-    double deltaY = 0;    ///< the same
-    bool precise = false; ///< from a device that measures points, a touchpad
-};
 
 /// The borderless window that carries the island over the top edge of the chosen screen.
 ///
@@ -70,6 +64,9 @@ public:
     /// A press on the island that no control of it took.
     void mouseDown();
     void scrollWheel(const ScrollEvent &event);
+
+    /// Asked before a scroll reaches the collapsed island; true: it was part of a gesture.
+    std::function<bool(const ScrollEvent &event)> takesScroll;
 
     /// A vertical scroll over the collapsed island, in notches of a wheel; positive is away from
     /// the user. A touchpad gives whole steps only.

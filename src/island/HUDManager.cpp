@@ -166,6 +166,7 @@ bool HUDManager::present(HUDContent content, bool keepAsActivity, double duratio
     const bool queueChanged = keepAsActivity && fileActivity(content);
     const bool contentChanged = currentHUD_ != content;
     currentHUD_ = std::move(content);
+    currentHUDDuration_ = durationSeconds;
     dismissTask_ = runLoop_.after(seconds(durationSeconds), [this] {
         publish(currentHUD_, std::nullopt, &HUDManager::currentHUDChanged);
     });
@@ -173,6 +174,7 @@ bool HUDManager::present(HUDContent content, bool keepAsActivity, double duratio
         Q_EMIT currentHUDChanged();
     if (queueChanged)
         Q_EMIT hudQueueChanged();
+    Q_EMIT hudPresented();
     return true;
 }
 

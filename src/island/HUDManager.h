@@ -69,6 +69,8 @@ public:
     void removeActivity(int index);
 
     const std::optional<HUDContent> &currentHUD() const { return currentHUD_; }
+    /// How long the last request asked its HUD to stay, in seconds.
+    double currentHUDDuration() const { return currentHUDDuration_; }
     const std::optional<HUDContent> &currentNowPlaying() const { return currentNowPlaying_; }
     bool isOvershoot() const { return isOvershoot_; }
     const std::optional<NetworkSpeed> &networkSpeed() const { return networkSpeed_; }
@@ -82,6 +84,8 @@ public:
 
 Q_SIGNALS:
     void currentHUDChanged();
+    /// A request was shown, be it the HUD that is on screen already.
+    void hudPresented();
     void currentNowPlayingChanged();
     void isOvershootChanged();
     void networkSpeedChanged();
@@ -112,6 +116,7 @@ private:
     const Instant launchTime_;
 
     std::optional<HUDContent> currentHUD_;
+    double currentHUDDuration_ = 0;
     std::optional<HUDContent> currentNowPlaying_;
     bool isOvershoot_ = false;
     std::optional<NetworkSpeed> networkSpeed_;

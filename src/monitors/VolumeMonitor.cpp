@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace quillmere {
 
@@ -39,8 +40,10 @@ void VolumeMonitor::start()
     }
     run_.emplace();
     watch(device);
-    run_->defaultOutputListener = hardware_.onDefaultOutputChanged(
+    auto listener = hardware_.onDefaultOutputChanged(
         [this] { runLoop_.post(run_->owner, [this] { defaultOutputChanged(); }); });
+    if (listener) // else it stays with this device
+        run_->defaultOutputListener = std::move(*listener);
 }
 
 void VolumeMonitor::stop()

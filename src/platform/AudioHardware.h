@@ -1,15 +1,16 @@
 #pragma once
 
+#include "platform/AudioOutput.h"
 #include "platform/Task.h"
 
-#include <cstdint>
+#include <QList>
+
+#include <tl/expected.hpp>
+
 #include <functional>
 #include <optional>
 
 namespace quillmere {
-
-/// An output device as long as the sound server runs; 0 = none. Ids are not reused.
-using AudioDeviceID = std::uint32_t;
 
 enum class AudioProperty {
     VirtualMainVolume, ///< the level a person sees, 0..1; muted reads as 0
@@ -34,7 +35,25 @@ public:
 
     virtual Task onVolumeChanged(AudioDeviceID device, AudioProperty property,
                                  std::function<void()> listener) = 0;
-    virtual Task onDefaultOutputChanged(std::function<void()> listener) = 0;
+    /// The error is the system's status code. An adapter whose listeners outlive the connection to
+    /// the sound server has none to give.
+    virtual tl::expected<Task, int> onDefaultOutputChanged(std::function<void()> listener) = 0;
+
+    /// Absent when the device is gone. Knows the default output, and while somebody listens to the
+    /// outputs, those.
+    virtual std::optional<AudioDevice> describe(AudioDeviceID device) const = 0;
+
+    /// Every device sound can be sent to, in the sound server's order, without the placeholder the
+    /// server offers when it has none. Kept only while somebody listens (empty before the first
+    /// report): the list of a page that is mostly closed is not worth following all day.
+    virtual QList<AudioOutput> outputs() const = 0;
+
+    /// Called on real changes of outputs(), and with the first list.
+    virtual Task onOutputsChanged(std::function<void()> listener) = 0;
+
+    /// Makes it the default output. What plays on the former default goes along; a stream that was
+    /// tied to one device by hand stays there. An unknown device changes nothing.
+    virtual void setDefaultOutput(AudioDeviceID device) = 0;
 
     /// True: the first snapshot of a connection is there, or a default device appeared where there
     /// was none; in both cases after the default output's own listeners. False: the server went

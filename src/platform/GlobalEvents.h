@@ -8,14 +8,31 @@
 
 namespace quillmere {
 
-/// Pointer events anywhere on the desktop outside our own windows. Main thread only.
+/// What the left button does anywhere on the desktop outside our own windows: presses made there,
+/// and how those go on. Positions are in logical, global units. Main thread only.
 class GlobalEvents
 {
 public:
+    using Listener = std::function<void(QPointF position)>;
+
+    /// What this desktop shows a program of the pointer outside its windows; a listener for more is
+    /// never called.
+    struct Capabilities {
+        bool drags = false; ///< dragging, the release after it, and what the DragPasteboard holds
+    };
+
     virtual ~GlobalEvents() = default;
 
-    /// Calls back on every press of the left button, with its place in logical, global units.
-    virtual Task onLeftMouseDown(std::function<void(QPointF position)> listener) = 0;
+    virtual Capabilities capabilities() const { return {}; }
+
+    /// Calls back on every press.
+    virtual Task onLeftMouseDown(Listener listener) = 0;
+
+    /// Calls back while the pointer moves with the button held, some 20 times a second at most.
+    virtual Task onLeftMouseDragged(Listener) { return {}; }
+
+    /// Calls back on the release, wherever that is.
+    virtual Task onLeftMouseUp(Listener) { return {}; }
 };
 
 } // namespace quillmere

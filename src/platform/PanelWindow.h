@@ -50,6 +50,8 @@ public:
     struct Capabilities {
         bool hidesFromScreenCapture = false;
         bool hidesInOverview = false;
+        bool detectsFullscreen = true;    ///< else the panel never counts as covered
+        bool seesPointerElsewhere = true; ///< where the pointer is and clicks, outside our windows
     };
 
     virtual ~PanelWindow() = default;

@@ -2,9 +2,15 @@
 
 namespace quillmere {
 
+class Appearance;
 class AudioHardware;
+class BluetoothBatteries;
 class CloudKeyValueStore;
+class DisplayBrightness;
+class DragPasteboard;
 class GlobalEvents;
+class Haptics;
+class HttpClient;
 class LoginItem;
 class NotificationCenter;
 class PanelWindow;
@@ -12,6 +18,7 @@ class RemoteControl;
 class RunLoop;
 class Screens;
 class StatePublisher;
+class StatusItem;
 class UserDefaults;
 
 /// The operating system's services as the application sees them. The composition root builds them
@@ -26,7 +33,14 @@ struct Platform {
     Screens &screens;
     PanelWindow &panelWindow;
     GlobalEvents &globalEvents;
+    DragPasteboard &dragPasteboard;
     AudioHardware &audioHardware;
+    BluetoothBatteries &bluetoothBatteries;
+    DisplayBrightness &displayBrightness;
+    Haptics &haptics;
+    Appearance &appearance;
+    StatusItem &statusItem;
+    HttpClient &httpClient;
     StatePublisher &statePublisher;
     RemoteControl &remoteControl;
 };

@@ -12,11 +12,28 @@ inline constexpr QLatin1StringView speakerSlash{"speaker.slash.fill"};
 inline constexpr QLatin1StringView speakerWave1{"speaker.wave.1.fill"};
 inline constexpr QLatin1StringView speakerWave2{"speaker.wave.2.fill"};
 inline constexpr QLatin1StringView speakerWave3{"speaker.wave.3.fill"};
+inline constexpr QLatin1StringView airpods{"airpods"};
+inline constexpr QLatin1StringView headphones{"headphones"};
+inline constexpr QLatin1StringView hifispeaker{"hifispeaker.fill"};
+inline constexpr QLatin1StringView car{"car.fill"};
+inline constexpr QLatin1StringView tv{"tv.fill"};
 inline constexpr QLatin1StringView sunMax{"sun.max.fill"};
 inline constexpr QLatin1StringView battery25{"battery.25"};
+inline constexpr QLatin1StringView trayAndArrowDown{"tray.and.arrow.down.fill"};
 inline constexpr QLatin1StringView island{"rectangle.topthird.inset.filled"};
 
-inline constexpr std::array all{speakerSlash, speakerWave1, speakerWave2, speakerWave3,
-                                sunMax,       battery25,    island};
+inline constexpr QLatin1StringView chevronLeft{"chevron.left"};
+inline constexpr QLatin1StringView chevronRight{"chevron.right"};
+inline constexpr QLatin1StringView xmark{"xmark"};
+inline constexpr QLatin1StringView checkmark{"checkmark"};
+inline constexpr QLatin1StringView doc{"doc.fill"};
+
+inline constexpr QLatin1StringView arrowDownCircle{"arrow.down.circle.fill"};
+
+inline constexpr std::array all{
+    arrowDownCircle, chevronLeft,  chevronRight, xmark,        checkmark, doc,
+    speakerSlash,    speakerWave1, speakerWave2, speakerWave3, airpods,   headphones,
+    hifispeaker,     car,          tv,           sunMax,       battery25, trayAndArrowDown,
+    island};
 
 } // namespace quillmere::symbols

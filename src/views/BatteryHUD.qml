@@ -5,7 +5,7 @@ import Quillmere
 Item {
     id: hud
 
-    required property hudFace face
+    required property FaceModel face
 
     Text {
         anchors.left: parent.left

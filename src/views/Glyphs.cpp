@@ -25,8 +25,20 @@ constexpr std::array glyphNames{
     GlyphName{symbols::speakerWave1, QLatin1StringView{"status/audio-volume-low"}},
     GlyphName{symbols::speakerWave2, QLatin1StringView{"status/audio-volume-medium"}},
     GlyphName{symbols::speakerWave3, QLatin1StringView{"status/audio-volume-high"}},
+    GlyphName{symbols::airpods, QLatin1StringView{"devices/airpods"}},
+    GlyphName{symbols::headphones, QLatin1StringView{"devices/audio-headphones"}},
+    GlyphName{symbols::hifispeaker, QLatin1StringView{"devices/audio-speakers"}},
+    GlyphName{symbols::car, QLatin1StringView{"devices/car"}},
+    GlyphName{symbols::tv, QLatin1StringView{"devices/tv"}},
     GlyphName{symbols::sunMax, QLatin1StringView{"status/display-brightness"}},
     GlyphName{symbols::battery25, QLatin1StringView{"status/battery-level-20"}},
+    GlyphName{symbols::trayAndArrowDown, QLatin1StringView{"status/file-tray"}},
+    GlyphName{symbols::chevronLeft, QLatin1StringView{"actions/go-previous"}},
+    GlyphName{symbols::chevronRight, QLatin1StringView{"actions/go-next"}},
+    GlyphName{symbols::xmark, QLatin1StringView{"ui/window-close"}},
+    GlyphName{symbols::checkmark, QLatin1StringView{"actions/object-select"}},
+    GlyphName{symbols::doc, QLatin1StringView{"mimetypes/text-x-generic"}},
+    GlyphName{symbols::arrowDownCircle, QLatin1StringView{"status/software-update-available"}},
     GlyphName{symbols::island, QLatin1StringView{"status/island"}},
 };
 
@@ -123,6 +135,12 @@ QImage Glyphs::image(const QString &symbol, int size, const QColor &tint)
 bool Glyphs::contains(const QString &symbol)
 {
     return QSvgRenderer(source(symbol)).isValid();
+}
+
+QString Glyphs::iconName(const QString &symbol)
+{
+    const QString icon = iconOf(symbol);
+    return icon.isEmpty() ? icon : icon.section(u'/', -1) + QStringLiteral("-symbolic");
 }
 
 QByteArray Glyphs::source(const QString &symbol)

@@ -30,6 +30,9 @@ public:
     /// Whether the symbol draws as itself.
     bool contains(const QString &symbol);
 
+    /// The name of the symbol's icon in its theme, for others to look up; empty: it has none.
+    static QString iconName(const QString &symbol);
+
 private:
     QByteArray source(const QString &symbol);
     QString filePath(const QString &icon) const;

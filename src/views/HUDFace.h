@@ -20,31 +20,7 @@ Q_ENUM_NS(Kind)
 } // namespace HUDLayout
 
 /// What is drawn for one HUD: everything decided, nothing left to the scene but to show it.
-class HUDFace
-{
-    Q_GADGET
-    QML_VALUE_TYPE(hudFace)
-    Q_PROPERTY(int layout READ layoutNumber FINAL)
-    Q_PROPERTY(QSizeF size MEMBER size FINAL)
-    Q_PROPERTY(QString symbol MEMBER symbol FINAL)
-    Q_PROPERTY(double symbolSize MEMBER symbolSize FINAL)
-    Q_PROPERTY(QImage picture MEMBER picture FINAL)
-    Q_PROPERTY(bool hasPicture READ hasPicture FINAL)
-    Q_PROPERTY(QString title MEMBER title FINAL)
-    Q_PROPERTY(QString subtitle MEMBER subtitle FINAL)
-    Q_PROPERTY(double level MEMBER level FINAL)
-    Q_PROPERTY(int levelAnimation MEMBER levelAnimation FINAL)
-    Q_PROPERTY(QString figures MEMBER figures FINAL)
-    Q_PROPERTY(QString label MEMBER label FINAL)
-    Q_PROPERTY(QList<QColor> barColors MEMBER barColors FINAL)
-    Q_PROPERTY(bool colorsFollowTrack MEMBER colorsFollowTrack FINAL)
-    Q_PROPERTY(bool glow MEMBER glow FINAL)
-    Q_PROPERTY(QColor accent MEMBER accent FINAL)
-    Q_PROPERTY(QString accessibleText MEMBER accessibleText FINAL)
-
-public:
-    int layoutNumber() const { return layout; } // compiled scenes take a value type's numbers only
-    bool hasPicture() const { return !picture.isNull(); }
+struct HUDFace {
     bool operator==(const HUDFace &) const = default;
 
     HUDLayout::Kind layout = HUDLayout::None;

@@ -5,7 +5,7 @@ import Quillmere
 Item {
     id: slot
 
-    required property hudFace face
+    required property FaceModel face
     required property bool shown
     required property bool live
     required property IslandModel island

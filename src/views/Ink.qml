@@ -1,10 +1,13 @@
 pragma Singleton
 import QtQuick
 
-// White on black, in four strengths.
+// White on black, in a few strengths.
 QtObject {
     readonly property color content: Qt.rgba(1, 1, 1, 0.92)
     readonly property color body: Qt.rgba(1, 1, 1, 0.72)
     readonly property color secondary: Qt.rgba(1, 1, 1, 0.55)
+    readonly property color faint: Qt.rgba(1, 1, 1, 0.28)
+    readonly property color pressed: Qt.rgba(1, 1, 1, 0.2)
     readonly property color raised: Qt.rgba(1, 1, 1, 0.12)
+    readonly property color card: Qt.rgba(1, 1, 1, 0.08)
 }

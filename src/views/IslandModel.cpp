@@ -3,10 +3,9 @@
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
+#include "platform/Appearance.h"
 #include "settings/SettingsStore.h"
-
-#include <QGuiApplication>
-#include <QPalette>
+#include "views/DesktopAccent.h"
 
 #include <algorithm>
 
@@ -14,22 +13,20 @@ namespace quillmere {
 
 namespace {
 
-constexpr int silhouetteLead = 120;          // ms
-constexpr double oneLine = 50;               // a HUD lower than this has one line
-constexpr float leastAccentLightness = 0.6F; // below, it is too dark on black
+constexpr int silhouetteLead = 120; // ms
+constexpr double oneLine = 50;      // a HUD lower than this has one line
 
 /// A wheel's notch is 120 eighths of a degree and scrolls ten units.
 constexpr double unitsPerAngle = 1.0 / 12;
 
-QColor desktopAccent()
+/// What a HUD may open: pages and letters, no files and no programs.
+QUrl linkOf(const std::optional<HUDContent> &hud)
 {
-    const QColor highlight = QGuiApplication::palette().color(QPalette::Highlight);
-    float hue = 0;
-    float saturation = 0;
-    float lightness = 0;
-    highlight.getHslF(&hue, &saturation, &lightness);
-    return QColor::fromHslF(std::max(0.0F, hue), saturation,
-                            std::max(leastAccentLightness, lightness));
+    const QUrl link(hud ? hud->contentURL.value_or(QString()) : QString(), QUrl::StrictMode);
+    const auto schemes = {QLatin1StringView("https"), QLatin1StringView("http"),
+                          QLatin1StringView("mailto")};
+    const bool allowed = std::ranges::find(schemes, link.scheme()) != schemes.end();
+    return link.isValid() && allowed ? link : QUrl();
 }
 
 /// Whether `next` is the same thing with another level: volume over volume, but no other message
@@ -58,26 +55,39 @@ double cornerRadius(Presentation presentation, double contentHeight)
 }
 
 IslandModel::IslandModel(HUDManager &hudManager, ContentView &contentView, FloatingPanel &panel,
-                         SettingsStore &settings, QObject *parent)
+                         SettingsStore &settings, Appearance &appearance, QObject *parent)
     : QObject(parent)
     , hudManager_(hudManager)
     , contentView_(contentView)
     , panel_(panel)
     , settings_(settings)
+    , appearance_(appearance)
 {
-    connect(&hudManager_, &HUDManager::currentHUDChanged, this, &IslandModel::updateHUD);
+    connect(&contentView_, &ContentView::shownHUDChanged, this, &IslandModel::updateHUD);
+    connect(&contentView_, &ContentView::idleActivityChanged, this, &IslandModel::updateWings);
     connect(&hudManager_, &HUDManager::isOvershootChanged, this, &IslandModel::overshootChanged);
     connect(&contentView_, &ContentView::islandSizeChanged, this, &IslandModel::updateShape);
     connect(&contentView_, &ContentView::presentationChanged, this, [this] {
         updateShape();
         updateHUD();
+        updateWings();
         Q_EMIT presentationChanged();
+        Q_EMIT surfaceChanged();
     });
     connect(&panel_, &FloatingPanel::alphaChanged, this, &IslandModel::alphaChanged);
     connect(&panel_, &FloatingPanel::collapsedSizeChanged, this, &IslandModel::contentTopChanged);
-    connect(&settings_, &SettingsStore::didChange, this, &IslandModel::refreshFace);
+    connect(&settings_, &SettingsStore::didChange, this, [this](const QString &key) {
+        refreshFace();
+        if (key == settings_.islandAppearance.key() || key == settings_.glassTransparency.key())
+            Q_EMIT surfaceChanged();
+    });
+    appearanceObserver_ = appearance_.onChanged([this] {
+        refreshFace();
+        Q_EMIT reducedMotionChanged();
+    });
     updateShape();
     updateHUD();
+    updateWings();
 }
 
 double IslandModel::contentTop() const
@@ -100,29 +110,83 @@ bool IslandModel::overshoot() const
     return hudManager_.isOvershoot();
 }
 
-QString IslandModel::accessibleText() const
+const HUDFace &IslandModel::face(int number) const
 {
-    return shownHUD_ ? faces_[static_cast<std::size_t>(shownFace_)].accessibleText : tr("Island");
+    return faces_.at(static_cast<std::size_t>(number)).face();
 }
 
-void IslandModel::setReducedMotion(bool reduced)
+QString IslandModel::accessibleText() const
 {
-    if (reduced == reducedMotion_)
-        return;
-    reducedMotion_ = reduced;
-    Q_EMIT reducedMotionChanged();
+    return shownHUD_ ? face(shownFace_).accessibleText : tr("Island");
+}
+
+bool IslandModel::reducedMotion() const
+{
+    return appearance_.reducesMotion();
+}
+
+bool IslandModel::isExpanded() const
+{
+    return contentView_.presentation() == Presentation::Expanded;
+}
+
+double IslandModel::surfaceAlpha() const
+{
+    if (!isExpanded() || settings_.islandAppearance.get() == IslandAppearance::Classic)
+        return 1;
+    return 1 - 0.5 * std::clamp(settings_.glassTransparency.get(), 0.0, 1.0);
 }
 
 void IslandModel::press()
 {
-    panel_.mouseDown();
+    const QUrl link = linkOf(contentView_.shownHUD());
+    if (link.isEmpty()) {
+        panel_.mouseDown();
+        return;
+    }
+    contentView_.dismissHUD();
+    Q_EMIT linkActivated(link);
 }
 
-void IslandModel::wheel(const QPointF &pixelDelta, const QPointF &angleDelta)
+void IslandModel::hover(bool inside)
 {
-    const bool precise = !pixelDelta.isNull();
+    if (inside == pointerInside_)
+        return;
+    pointerInside_ = inside;
+    if (inside)
+        contentView_.pointerEntered();
+    else
+        contentView_.pointerExited();
+}
+
+void IslandModel::dragOver(bool over)
+{
+    Q_EMIT dragOverChanged(over);
+}
+
+void IslandModel::drop(const QList<QUrl> &files)
+{
+    Q_EMIT filesDropped(files);
+}
+
+void IslandModel::wheel(const QPointF &pixelDelta, const QPointF &angleDelta, bool touchpad)
+{
+    const bool precise = touchpad && !pixelDelta.isNull();
     const QPointF delta = precise ? pixelDelta : angleDelta * unitsPerAngle;
-    panel_.scrollWheel({.deltaX = delta.x(), .deltaY = delta.y(), .precise = precise});
+    panel_.scrollWheel({.deltaX = delta.x(), .deltaY = delta.y(), .precise = touchpad});
+}
+
+void IslandModel::updateWings()
+{
+    const auto activity = contentView_.presentation() == Presentation::Collapsed
+                              ? contentView_.idleActivity()
+                              : std::nullopt;
+    if (activity)
+        wings_.setFace(hudFace(*activity, hudLook(settings_), desktopAccent(appearance_)));
+    if (!activity && !showsWings_)
+        return;
+    showsWings_ = activity.has_value();
+    Q_EMIT wingsChanged();
 }
 
 void IslandModel::updateShape()
@@ -139,9 +203,8 @@ void IslandModel::updateShape()
 
 void IslandModel::updateHUD()
 {
-    const auto &hud = hudManager_.currentHUD();
-    const bool visible = hud && contentView_.presentation() == Presentation::HUD;
-    if (visible) {
+    const auto &hud = contentView_.shownHUD();
+    if (hud) {
         if (hud != shownHUD_)
             show(*hud);
         return;
@@ -163,8 +226,8 @@ void IslandModel::show(const HUDContent &hud)
         setContentDelay(resizes ? silhouetteLead : 0);
     }
     shownHUD_ = hud;
-    faces_[static_cast<std::size_t>(lastFace_)] = hudFace(hud, hudLook(settings_), desktopAccent());
-    Q_EMIT facesChanged();
+    faces_[static_cast<std::size_t>(lastFace_)].setFace(
+        hudFace(hud, hudLook(settings_), desktopAccent(appearance_)));
     if (shownFace_ != lastFace_) {
         shownFace_ = lastFace_;
         Q_EMIT shownFaceChanged();

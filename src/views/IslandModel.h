@@ -1,11 +1,13 @@
 #pragma once
 
 #include "island/HUDContent.h"
-#include "views/HUDFace.h"
+#include "platform/Task.h"
+#include "views/FaceModel.h"
 
 #include <QObject>
 #include <QPointF>
 #include <QSizeF>
+#include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
 #include <array>
@@ -13,6 +15,7 @@
 
 namespace quillmere {
 
+class Appearance;
 class ContentView;
 class FloatingPanel;
 class HUDManager;
@@ -38,18 +41,21 @@ class IslandModel : public QObject
     Q_PROPERTY(double contentTop READ contentTop NOTIFY contentTopChanged FINAL)
     Q_PROPERTY(QString presentation READ presentation NOTIFY presentationChanged FINAL)
     Q_PROPERTY(double alpha READ alpha NOTIFY alphaChanged FINAL)
-    Q_PROPERTY(quillmere::HUDFace firstFace READ firstFace NOTIFY facesChanged FINAL)
-    Q_PROPERTY(quillmere::HUDFace secondFace READ secondFace NOTIFY facesChanged FINAL)
+    Q_PROPERTY(quillmere::FaceModel *firstFace READ firstFace CONSTANT FINAL)
+    Q_PROPERTY(quillmere::FaceModel *secondFace READ secondFace CONSTANT FINAL)
     Q_PROPERTY(int shownFace READ shownFace NOTIFY shownFaceChanged FINAL)
     Q_PROPERTY(int contentDelay READ contentDelay NOTIFY contentDelayChanged FINAL)
     Q_PROPERTY(bool overshoot READ overshoot NOTIFY overshootChanged FINAL)
-    Q_PROPERTY(bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY
-                   reducedMotionChanged FINAL)
+    Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY reducedMotionChanged FINAL)
+    Q_PROPERTY(bool expanded READ isExpanded NOTIFY presentationChanged FINAL)
+    Q_PROPERTY(double surfaceAlpha READ surfaceAlpha NOTIFY surfaceChanged FINAL)
+    Q_PROPERTY(bool showsWings READ showsWings NOTIFY wingsChanged FINAL)
+    Q_PROPERTY(quillmere::FaceModel *wings READ wings CONSTANT FINAL)
     Q_PROPERTY(QString accessibleText READ accessibleText NOTIFY accessibleTextChanged FINAL)
 
 public:
     IslandModel(HUDManager &hudManager, ContentView &contentView, FloatingPanel &panel,
-                SettingsStore &settings, QObject *parent = nullptr);
+                SettingsStore &settings, Appearance &appearance, QObject *parent = nullptr);
 
     double targetWidth() const { return size_.width(); }
     double targetHeight() const { return size_.height(); }
@@ -57,36 +63,54 @@ public:
     double contentTop() const; ///< below the camera housing, if the screen has one
     QString presentation() const;
     double alpha() const;
-    const HUDFace &firstFace() const { return faces_[0]; }
-    const HUDFace &secondFace() const { return faces_[1]; }
+    FaceModel *firstFace() { return &faces_[0]; }
+    FaceModel *secondFace() { return &faces_[1]; }
+    const HUDFace &face(int number) const;             ///< 0 or 1
     int shownFace() const { return shownFace_; }       ///< 0 or 1; -1 = no HUD
     int contentDelay() const { return contentDelay_; } ///< ms a new face waits for the silhouette
     bool overshoot() const;
-    bool reducedMotion() const { return reducedMotion_; }
-    void setReducedMotion(bool reduced);
+    bool reducedMotion() const;
+    bool isExpanded() const;
+    double surfaceAlpha() const; ///< of the island's body; below 1 it is glass
+    /// The activity in the wings of the pill.
+    bool showsWings() const { return showsWings_; }
+    FaceModel *wings() { return &wings_; }
     QString accessibleText() const;
 
-    /// A press on the island that no control took.
+    /// A press on the island that no control took: opens the link of the HUD on show, or else is a
+    /// tap.
     Q_INVOKABLE void press();
 
-    /// A turn of the wheel over the island, or a finger's way over a touch pad.
-    Q_INVOKABLE void wheel(const QPointF &pixelDelta, const QPointF &angleDelta);
+    /// The pointer came over the island or left it.
+    Q_INVOKABLE void hover(bool inside);
+
+    /// Files are being dragged over the island, or no longer.
+    Q_INVOKABLE void dragOver(bool over);
+    Q_INVOKABLE void drop(const QList<QUrl> &files);
+
+    /// A turn of the wheel over the island, or a finger's way over a touchpad.
+    void wheel(const QPointF &pixelDelta, const QPointF &angleDelta, bool touchpad);
 
 Q_SIGNALS:
     void shapeChanged();
     void contentTopChanged();
     void presentationChanged();
     void alphaChanged();
-    void facesChanged();
     void shownFaceChanged();
     void contentDelayChanged();
     void overshootChanged();
     void reducedMotionChanged();
     void accessibleTextChanged();
+    void surfaceChanged();
+    void wingsChanged();
+    void linkActivated(const QUrl &link);
+    void dragOverChanged(bool over);
+    void filesDropped(const QList<QUrl> &files);
 
 private:
     void updateShape();
     void updateHUD();
+    void updateWings();
     void refreshFace();
     void show(const HUDContent &hud);
     void setContentDelay(int milliseconds);
@@ -95,15 +119,19 @@ private:
     ContentView &contentView_;
     FloatingPanel &panel_;
     SettingsStore &settings_;
+    Appearance &appearance_;
 
     QSizeF size_;
     double cornerRadius_ = 0;
-    std::array<HUDFace, 2> faces_;
+    std::array<FaceModel, 2> faces_;
     std::optional<HUDContent> shownHUD_;
     int shownFace_ = -1;
     int lastFace_ = 0;
     int contentDelay_ = 0;
-    bool reducedMotion_ = false;
+    bool showsWings_ = false;
+    FaceModel wings_;
+    bool pointerInside_ = false;
+    Task appearanceObserver_;
 };
 
 } // namespace quillmere

@@ -5,12 +5,16 @@ Item {
     id: scene
 
     required property IslandModel island
+    required property DashboardModel dashboard
 
     readonly property bool live: Window.visibility !== Window.Hidden
     readonly property int motion: island.reducedMotion ? Follower.Linear : Follower.Spring
 
     LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
+
+    // A window that is gone tells nobody that the pointer is.
+    onLiveChanged: if (!live) island.hover(false)
 
     // The canvas comes up empty and the island fades in on it, every time it is shown.
     Follower on opacity {
@@ -43,17 +47,34 @@ Item {
             curve: scene.motion
             enabled: scene.live
         }
+        Follower on surfaceAlpha {
+            to: scene.island.surfaceAlpha
+            curve: Follower.Linear
+            enabled: scene.live
+        }
 
-        MouseArea {
+        HoverHandler {
+            onHoveredChanged: scene.island.hover(hovered)
+        }
+        PointerArea {
             anchors.fill: parent
-            onPressed: scene.island.press()
-            onWheel: wheel => scene.island.wheel(wheel.pixelDelta, wheel.angleDelta)
+            island: scene.island
+        }
+        DropTarget {
+            anchors.fill: parent
+            onDragEntered: scene.island.dragOver(true)
+            onDragExited: scene.island.dragOver(false)
+            onDropped: files => scene.island.drop(files)
         }
 
         Item {
             anchors.fill: parent
             clip: true
 
+            Wings {
+                island: scene.island
+                live: scene.live
+            }
             HUDSlot {
                 objectName: "firstHUD"
                 face: scene.island.firstFace
@@ -67,6 +88,33 @@ Item {
                 shown: scene.island.shownFace === 1
                 island: scene.island
                 live: scene.live
+            }
+            // Built when it opens and gone when it has closed: most of the day nobody sees it.
+            Loader {
+                id: dashboard
+
+                y: scene.island.contentTop
+                width: 600
+                height: 220
+                anchors.horizontalCenter: parent.horizontalCenter
+                active: scene.island.expanded || opacity > 0
+                visible: opacity > 0
+                focus: true
+
+                Follower on opacity {
+                    to: scene.island.expanded ? 1 : 0
+                    curve: Follower.Linear
+                    enabled: scene.live
+                    riseDelay: scene.island.reducedMotion ? 0 : 120
+                    riseDuration: 140
+                    fallDuration: 80
+                }
+
+                sourceComponent: Dashboard {
+                    model: scene.dashboard
+                    motion: scene.motion
+                    live: scene.live
+                }
             }
         }
     }

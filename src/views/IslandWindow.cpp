@@ -1,5 +1,6 @@
 #include "views/IslandWindow.h"
 
+#include "views/DashboardModel.h"
 #include "views/IslandModel.h"
 
 #include <QAccessible>
@@ -24,11 +25,13 @@ namespace {
 
 constexpr QSize canvas(720, 300);
 
-std::unique_ptr<QQuickItem> makeScene(QQmlEngine &engine, IslandModel &island)
+std::unique_ptr<QQuickItem> makeScene(QQmlEngine &engine, IslandModel &island,
+                                      DashboardModel &dashboard)
 {
     QQmlComponent component(
         &engine, QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmere/IslandScene.qml")));
-    const QVariantMap properties{{QStringLiteral("island"), QVariant::fromValue(&island)}};
+    const QVariantMap properties{{QStringLiteral("island"), QVariant::fromValue(&island)},
+                                 {QStringLiteral("dashboard"), QVariant::fromValue(&dashboard)}};
     std::unique_ptr<QObject> scene;
     if (component.isReady())
         scene.reset(component.createWithInitialProperties(properties));
@@ -51,13 +54,17 @@ IslandWindow::IslandWindow()
 
 IslandWindow::~IslandWindow() = default;
 
-void IslandWindow::setIsland(IslandModel *island)
+void IslandWindow::clearIsland()
 {
     scene_.reset();
-    island_ = island;
-    if (!island_)
-        return;
-    scene_ = makeScene(*engine_, *island_);
+    island_ = nullptr;
+}
+
+void IslandWindow::setIsland(IslandModel &island, DashboardModel &dashboard)
+{
+    clearIsland();
+    island_ = &island;
+    scene_ = makeScene(*engine_, island, dashboard);
     scene_->setParentItem(contentItem());
     fitScene();
     connect(island_, &IslandModel::shownFaceChanged, this, &IslandWindow::announce);

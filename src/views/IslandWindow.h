@@ -8,6 +8,7 @@ class QQmlEngine;
 
 namespace quillmere {
 
+class DashboardModel;
 class IslandModel;
 
 /// The transparent canvas with the island drawn at the middle of its top edge. What the window is
@@ -23,8 +24,9 @@ public:
     IslandWindow();
     ~IslandWindow() override;
 
-    /// Draws this island; null: nothing any more. The model has to live until then.
-    void setIsland(IslandModel *island);
+    /// Draws this island. The models have to live until clearIsland().
+    void setIsland(IslandModel &island, DashboardModel &dashboard);
+    void clearIsland();
 
 private:
     void fitScene();

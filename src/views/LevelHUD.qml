@@ -5,7 +5,7 @@ import Quillmere
 Item {
     id: hud
 
-    required property hudFace face
+    required property FaceModel face
     required property bool overshoot
     required property bool onScreen ///< what is not seen jumps
 

@@ -6,7 +6,7 @@ import Quillmere
 Item {
     id: hud
 
-    required property hudFace face
+    required property FaceModel face
 
     readonly property bool low: height < 70
 

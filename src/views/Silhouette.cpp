@@ -4,6 +4,7 @@
 #include "views/SoftRect.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 namespace quillmere {
 
@@ -13,6 +14,7 @@ constexpr double shadowDrop = 6;
 constexpr double shadowSigma = 18;
 const QColor shadowColor(0, 0, 0, 71); // 28 %
 const QColor bodyColor(Qt::black);
+const QColor hairlineColor(255, 255, 255, 31); // 12 %
 
 struct Body {
     QSizeF frame;
@@ -63,6 +65,28 @@ void paintShadow(QPainter &painter, const Body &body)
     });
 }
 
+/// Glass would show the shadow that lies below it.
+void clipAwayBody(QPainter &painter, const Body &body)
+{
+    QPainterPath around;
+    around.addRect(shadowOf(body).extent());
+    around.addPath(silhouettePath(body.frame, body.cornerRadius).translated(-earRadius, 0));
+    painter.setClipPath(around, Qt::IntersectClip);
+}
+
+void paintBody(QPainter &painter, const Body &body, double alpha)
+{
+    painter.translate(-earRadius, 0);
+    const QPainterPath path = silhouettePath(body.frame, body.cornerRadius);
+    QColor color = bodyColor;
+    color.setAlphaF(static_cast<float>(alpha));
+    painter.fillPath(path, color);
+    if (alpha >= 1)
+        return;
+    painter.setClipPath(path, Qt::IntersectClip); // of a stroke, the inner half
+    painter.strokePath(path, QPen(hairlineColor, 2));
+}
+
 } // namespace
 
 void Silhouette::setCornerRadius(double radius)
@@ -74,15 +98,27 @@ void Silhouette::setCornerRadius(double radius)
     Q_EMIT cornerRadiusChanged();
 }
 
+void Silhouette::setSurfaceAlpha(double alpha)
+{
+    if (alpha == surfaceAlpha_)
+        return;
+    surfaceAlpha_ = alpha;
+    update();
+    Q_EMIT surfaceAlphaChanged();
+}
+
 Drawing Silhouette::drawing() const
 {
     const Body body{size(), cornerRadius_};
     QRectF bounds = shadowOf(body).extent();
     bounds.setTop(0);
-    const auto paint = [body](QPainter &painter) {
+    const auto paint = [body, alpha = surfaceAlpha_](QPainter &painter) {
+        painter.save();
+        if (alpha < 1)
+            clipAwayBody(painter, body);
         paintShadow(painter, body);
-        painter.translate(-earRadius, 0);
-        painter.fillPath(silhouettePath(body.frame, body.cornerRadius), bodyColor);
+        painter.restore();
+        paintBody(painter, body, alpha);
     };
     return {bounds, paint};
 }

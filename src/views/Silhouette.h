@@ -13,6 +13,8 @@ class Silhouette : public PaintedItem
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(
+        double surfaceAlpha READ surfaceAlpha WRITE setSurfaceAlpha NOTIFY surfaceAlphaChanged)
+    Q_PROPERTY(
         double cornerRadius READ cornerRadius WRITE setCornerRadius NOTIFY cornerRadiusChanged)
 
 public:
@@ -20,15 +22,19 @@ public:
 
     double cornerRadius() const { return cornerRadius_; }
     void setCornerRadius(double radius);
+    double surfaceAlpha() const { return surfaceAlpha_; }
+    void setSurfaceAlpha(double alpha); ///< 0..1; below 1 the body is glass with a hairline edge
 
 Q_SIGNALS:
     void cornerRadiusChanged();
+    void surfaceAlphaChanged();
 
 protected:
     Drawing drawing() const override;
 
 private:
     double cornerRadius_ = 0;
+    double surfaceAlpha_ = 1;
 };
 
 } // namespace quillmere

@@ -43,6 +43,14 @@ QFont Typography::text() const
     return desktopFont(12);
 }
 
+QFont Typography::display() const
+{
+    QFont font = desktopFont(44);
+    font.setWeight(QFont::Light);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, -1);
+    return font;
+}
+
 bool Typography::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ApplicationFontChange)

@@ -1,5 +1,6 @@
 #include "platform/linux/audio/PulseAudioHardware.h"
 
+#include "monitors/AudioOutputMonitor.h"
 #include "monitors/VolumeMonitor.h"
 #include "platform/linux/core/QtRunLoop.h"
 #include "support/ManualRunLoop.h"
@@ -11,6 +12,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QTimer>
 
@@ -129,7 +131,8 @@ struct PulseAudioHardwareTest : testing::Test {
         hardware.emplace(runLoop);
         availabilityTask = hardware->onAvailabilityChanged(
             [this](bool available) { events.emplace_back(available ? "available" : "away"); });
-        defaultTask = hardware->onDefaultOutputChanged([this] { events.emplace_back("default"); });
+        defaultTask =
+            hardware->onDefaultOutputChanged([this] { events.emplace_back("default"); }).value();
         ASSERT_TRUE(waitUntil([this] { return hardware->isAvailable(); }));
     }
 
@@ -369,6 +372,124 @@ TEST_F(PulseAudioHardwareTest, EventsWhileAQuestionIsUnderWayCostExactlyOneMore)
     EXPECT_EQ(answers, 2);
     sink.reset();
 }
+
+struct Headset {
+    bool isPipeWire;
+    const char *name;
+    const char *properties;
+};
+
+/// A server with speakers as the default, and a headset as the real ones describe it.
+struct OutputsTest : PulseAudioHardwareTest, testing::WithParamInterface<Headset> {
+    void SetUp() override
+    {
+        GetParam().isPipeWire ? server.startPipeWire() : server.start({});
+        connect();
+        outputsTask = hardware->onOutputsChanged([this] { events.emplace_back("outputs"); });
+        server.loadSink(speakers, QStringLiteral("device.description=Desk device.bus=pci "
+                                                 "device.form_factor=speaker"));
+        server.pactl(QStringLiteral("set-default-sink speakers"));
+        headset = server.loadSink(QString::fromLatin1(GetParam().name),
+                                  QString::fromLatin1(GetParam().properties));
+    }
+    void TearDown() override
+    {
+        player.kill();
+        player.waitForFinished();
+    }
+
+    /// The outputs as "AirPods Pro, Desk*", the default marked.
+    std::string outputs() const
+    {
+        QStringList names;
+        for (const AudioOutput &output : hardware->outputs())
+            names << output.name + QLatin1StringView(output.isDefault ? "*" : "");
+        names.sort();
+        return names.join(QStringLiteral(", ")).toStdString();
+    }
+    bool waitForOutputs(const std::string &expected)
+    {
+        return waitUntil([&] { return outputs() == expected; });
+    }
+
+    /// The name of the sink that our player's stream is on.
+    QString sinkOfStream()
+    {
+        const auto stream =
+            server.pactl(QStringLiteral("list short sink-inputs")).section(u'\t', 1, 1);
+        const auto sinks = server.pactl(QStringLiteral("list short sinks")).split(u'\n');
+        for (const QString &sink : sinks)
+            if (sink.section(u'\t', 0, 0) == stream)
+                return sink.section(u'\t', 1, 1);
+        return {};
+    }
+
+    QString headset;
+    Task outputsTask;
+    QProcess player;
+};
+
+TEST_P(OutputsTest, AreListedDescribedAndChosen)
+{
+    ASSERT_TRUE(waitForOutputs("AirPods Pro, Desk*")) << outputs();
+    const auto list = hardware->outputs();
+    const auto airPods = std::ranges::find(list, true, &AudioOutput::isBluetooth);
+    ASSERT_NE(airPods, list.end());
+    const AudioDevice expected{QStringLiteral("AirPods Pro"), AudioFormFactor::Headset, true,
+                               QStringLiteral("AA:BB:CC:DD:EE:FF")};
+    EXPECT_EQ(hardware->describe(airPods->id), expected);
+    const AudioDevice desk{QStringLiteral("Desk"), AudioFormFactor::Speaker, false, {}};
+    EXPECT_EQ(hardware->describe(hardware->defaultOutputDevice()), desk);
+
+    AudioOutputMonitor monitor(runLoop, *hardware);
+    std::vector<std::string> reports;
+    monitor.onBluetoothDeviceConnected = [&](const QString &name, bool isAirPods) {
+        reports.push_back(name.toStdString() + (isAirPods ? "!" : ""));
+    };
+    monitor.start();
+    player.start(QStringLiteral("pacat"), {QStringLiteral("--raw"), QStringLiteral("/dev/zero")});
+    ASSERT_TRUE(waitUntil([this] { return sinkOfStream() == speakers; }));
+    hardware->setDefaultOutput(airPods->id + 100);
+    hardware->setDefaultOutput(airPods->id);
+    EXPECT_TRUE(waitForOutputs("AirPods Pro*, Desk")) << outputs();
+    EXPECT_TRUE(waitUntil([&] { return sinkOfStream() == QLatin1StringView(GetParam().name); }));
+    EXPECT_TRUE(waitUntil([&] { return !reports.empty(); }));
+
+    server.pactl(QStringLiteral("unload-module ") + headset);
+    EXPECT_TRUE(waitForOutputs("Desk*")) << outputs();
+    EXPECT_EQ(hardware->describe(airPods->id), std::nullopt);
+    EXPECT_TRUE(waitUntil([&] { return monitor.lastBluetoothDeviceID() == 0; }));
+    EXPECT_THAT(reports, ElementsAre("AirPods Pro!"));
+}
+
+TEST_P(OutputsTest, AreTheNewServersAfterACrashAndNoneWithoutAListener)
+{
+    ASSERT_TRUE(waitForOutputs("AirPods Pro, Desk*")) << outputs();
+    server.kill();
+    EXPECT_TRUE(waitForOutputs(""));
+    GetParam().isPipeWire ? server.startPipeWire() : server.start({});
+    server.loadSink(speakers, QStringLiteral("device.description=Desk"));
+    EXPECT_TRUE(waitForOutputs("Desk*")) << outputs(); // without the placeholder of before
+
+    outputsTask.cancel();
+    EXPECT_THAT(hardware->outputs(), IsEmpty());
+    server.loadSink(QStringLiteral("late"), QStringLiteral("device.description=Late"));
+    outputsTask = hardware->onOutputsChanged([] {});
+    EXPECT_TRUE(waitUntil([this] { return hardware->outputs().size() == 2; })) << outputs();
+}
+
+// A headset told by its bus, by its name alone, and by its driver.
+constexpr Headset headsets[] = {
+    {false, "bluez_sink.AA_BB_CC_DD_EE_FF.a2dp_sink",
+     "device.description='AirPods Pro' device.bus=bluetooth device.api=bluez "
+     "device.string=AA:BB:CC:DD:EE:FF device.form_factor=headset"},
+    {false, "bluez_sink.AA_BB_CC_DD_EE_FF.handsfree_head_unit",
+     "device.description='AirPods Pro' device.form_factor=hands-free"},
+    {true, "headset",
+     "device.description='AirPods Pro' device.api=bluez5 api.bluez5.address=AA:BB:CC:DD:EE:FF "
+     "device.form_factor=headset"},
+};
+INSTANTIATE_TEST_SUITE_P(Servers, OutputsTest, testing::ValuesIn(headsets));
 
 } // namespace
 } // namespace quillmere

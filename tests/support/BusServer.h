@@ -13,28 +13,19 @@
 namespace quillmere {
 
 /// A session bus of the test's own: a real dbus-daemon in a private folder, which knows no other
-/// services and so starts none.
+/// services and so starts none but those on offer.
 class BusServer
 {
 public:
     BusServer()
     {
-        QDir(directory_.path()).mkdir(QStringLiteral("services"));
-        QFile file(directory_.filePath(QStringLiteral("bus.conf")));
-        const QString text =
-            QStringLiteral("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus "
-                           "Configuration 1.0//EN\" \"http://www.freedesktop.org/standards/dbus/"
-                           "1.0/busconfig.dtd\">\n"
-                           "<busconfig><type>session</type><keep_umask/>"
-                           "<listen>unix:path=%1/bus</listen><auth>EXTERNAL</auth>"
-                           "<servicedir>%1/services</servicedir>"
-                           "<policy context=\"default\">"
-                           "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
-                           "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n")
-                .arg(directory_.path());
-        if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0)
-            throw std::runtime_error("cannot write the bus configuration");
-        file.close();
+        write(QStringLiteral("bus.conf"),
+              QStringLiteral("<busconfig><type>session</type><listen>unix:path=%1/bus</listen>"
+                             "<auth>EXTERNAL</auth><servicedir>%1</servicedir>"
+                             "<policy context='default'><allow own='*'/>"
+                             "<allow send_destination='*' eavesdrop='true'/>"
+                             "<allow eavesdrop='true'/></policy></busconfig>")
+                  .arg(directory_.path()));
         start();
     }
 
@@ -52,12 +43,8 @@ public:
     /// Has the bus start `command` when someone calls `name`.
     void offer(const QString &name, const QString &command)
     {
-        QFile file(directory_.filePath(QStringLiteral("services/%1.service").arg(name)));
-        const QString text =
-            QStringLiteral("[D-BUS Service]\nName=%1\nExec=%2\n").arg(name, command);
-        if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0)
-            throw std::runtime_error("cannot write the service file");
-        file.close();
+        write(name + QStringLiteral(".service"),
+              QStringLiteral("[D-BUS Service]\nName=%1\nExec=%2\n").arg(name, command));
         const QString daemon = QStringLiteral("org.freedesktop.DBus");
         connect().call(QDBusMessage::createMethodCall(daemon,
                                                       QStringLiteral("/org/freedesktop/DBus"),
@@ -72,6 +59,13 @@ public:
     }
 
 private:
+    void write(const QString &name, const QString &text)
+    {
+        QFile file(directory_.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0)
+            throw std::runtime_error("cannot configure the bus");
+    }
+
     void start()
     {
         daemon_.setStandardErrorFile(QProcess::nullDevice());

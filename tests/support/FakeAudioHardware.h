@@ -18,6 +18,7 @@ public:
     struct Device {
         std::optional<float> mainVolume = std::nullopt;
         std::optional<float> scalar = std::nullopt;
+        AudioDevice facts{};
     };
     struct Write {
         AudioDeviceID device;
@@ -27,7 +28,8 @@ public:
 
     AudioDeviceID add(Device device)
     {
-        devices_.emplace(++lastID_, device);
+        devices_.emplace(++lastID_, std::move(device));
+        outputsListeners_.notify();
         return lastID_;
     }
 
@@ -36,6 +38,7 @@ public:
     {
         default_ = device;
         defaultOutputListeners_.notify();
+        outputsListeners_.notify();
     }
 
     void change(AudioDeviceID device, AudioProperty property, std::optional<float> level)
@@ -44,7 +47,14 @@ public:
         volumeListeners_.notify(device, property);
     }
 
-    void remove(AudioDeviceID device) { devices_.erase(device); }
+    void remove(AudioDeviceID device)
+    {
+        devices_.erase(device);
+        outputsListeners_.notify();
+    }
+
+    /// From now on nobody can listen to the default output: registering gives this status.
+    void refuseListeners(int status) { refusal_ = status; }
 
     void tellOwnChanges()
     {
@@ -90,9 +100,33 @@ public:
                 listener();
         });
     }
-    Task onDefaultOutputChanged(std::function<void()> listener) override
+    tl::expected<Task, int> onDefaultOutputChanged(std::function<void()> listener) override
     {
+        if (refusal_)
+            return tl::unexpected(*refusal_);
         return defaultOutputListeners_.add(std::move(listener));
+    }
+    std::optional<AudioDevice> describe(AudioDeviceID device) const override
+    {
+        const auto found = devices_.find(device);
+        return found == devices_.end() ? std::nullopt : std::optional(found->second.facts);
+    }
+    QList<AudioOutput> outputs() const override
+    {
+        QList<AudioOutput> list;
+        for (const auto &[id, device] : devices_)
+            list.append({id, device.facts.name.value_or(QString()), device.facts.formFactor,
+                         device.facts.isBluetooth, id == default_});
+        return list;
+    }
+    Task onOutputsChanged(std::function<void()> listener) override
+    {
+        return outputsListeners_.add(std::move(listener));
+    }
+    void setDefaultOutput(AudioDeviceID device) override
+    {
+        if (devices_.contains(device))
+            setDefault(device);
     }
     Task onAvailabilityChanged(std::function<void(bool)> listener) override
     {
@@ -113,7 +147,9 @@ private:
     std::vector<Write> writes_;
     std::vector<Write> untold_;
     Listeners<AudioDeviceID, AudioProperty> volumeListeners_;
+    std::optional<int> refusal_;
     Listeners<> defaultOutputListeners_;
+    Listeners<> outputsListeners_;
     Listeners<bool> availabilityListeners_;
 };
 

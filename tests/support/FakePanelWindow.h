@@ -14,43 +14,18 @@ class FakePanelWindow : public PanelWindow
 public:
     Capabilities capabilities() const override { return {}; }
 
-    void create(const PanelStyle &newStyle) override
+    void create(const PanelStyle &newStyle) override { note("create", style, newStyle); }
+    void setLevelAboveMainMenu(int levels) override { note("level", level, levels); }
+    void setTraits(const PanelTraits &newTraits) override { note("traits", traits, newTraits); }
+    void setCollectionBehavior(CollectionBehaviors flags) override
     {
-        style = newStyle;
-        calls.emplace_back("create");
+        note("behavior", behavior, flags);
     }
-    void setLevelAboveMainMenu(int levels) override
-    {
-        level = levels;
-        calls.emplace_back("level");
-    }
-    void setTraits(const PanelTraits &newTraits) override
-    {
-        traits = newTraits;
-        calls.emplace_back("traits");
-    }
-    void setCollectionBehavior(CollectionBehaviors newBehavior) override
-    {
-        behavior = newBehavior;
-        calls.emplace_back("behavior");
-    }
-    void setSharingType(SharingType type) override
-    {
-        sharing = type;
-        calls.emplace_back("sharing");
-    }
+    void setSharingType(SharingType type) override { note("sharing", sharing, type); }
     void attachContent() override { calls.emplace_back("content"); }
     void registerForFileDrops() override { calls.emplace_back("drops"); }
-    void setFrame(const QRectF &newFrame) override
-    {
-        frame = newFrame;
-        calls.emplace_back("frame");
-    }
-    void setVisible(bool show) override
-    {
-        visible = show;
-        calls.emplace_back(show ? "show" : "hide");
-    }
+    void setFrame(const QRectF &newFrame) override { note("frame", frame, newFrame); }
+    void setVisible(bool show) override { note(show ? "show" : "hide", visible, show); }
     void orderFront() override { calls.emplace_back("front"); }
     bool isCoveredByFullscreen() const override { return covered; }
     Task onFullscreenChanged(std::function<void()> listener) override
@@ -76,6 +51,13 @@ public:
     std::vector<std::string> calls;
 
 private:
+    template <class T>
+    void note(const char *call, T &field, const T &value)
+    {
+        field = value;
+        calls.emplace_back(call);
+    }
+
     Listeners<> fullscreenListeners_;
 };
 

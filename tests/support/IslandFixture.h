@@ -1,14 +1,21 @@
 #pragma once
 
+#include "app/AudioOutputPicker.h"
+#include "app/FileTray.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
 #include "island/IslandDebugLogger.h"
+#include "island/IslandGestures.h"
+#include "support/FakeAppearance.h"
+#include "support/FakeAudioHardware.h"
 #include "support/FakeGlobalEvents.h"
+#include "support/FakeHaptics.h"
 #include "support/FakePanelWindow.h"
 #include "support/FakeScreens.h"
 #include "support/ManualRunLoop.h"
 #include "support/SettingsFixture.h"
+#include "views/DashboardModel.h"
 #include "views/IslandModel.h"
 
 #include <QTemporaryDir>
@@ -21,14 +28,14 @@ struct IslandFixture {
     IslandFixture()
     {
         screens.list = {FakeScreens::plain(QStringLiteral("Screen"), {0, 0, 1512, 900})};
+        panel.takesScroll = [this](const ScrollEvent &event) {
+            return gestures.takesScroll(event);
+        };
         panel.displaysDidChange();
         runLoop.advance(std::chrono::seconds(4));
     }
 
-    HUDFace face() const
-    {
-        return island.shownFace() == 0 ? island.firstFace() : island.secondFace();
-    }
+    HUDFace face() const { return island.face(island.shownFace()); }
 
     QTemporaryDir dir;
     ManualRunLoop runLoop;
@@ -40,8 +47,15 @@ struct IslandFixture {
     IslandDebugLogger logger{runLoop, dir.path()};
     HUDManager hud{runLoop, settings, logger};
     FloatingPanel panel{runLoop, screens, events, fixture.notifications, panelWindow, settings};
-    ContentView content{hud, panel};
-    IslandModel island{hud, content, panel, settings};
+    FakeHaptics haptics;
+    ContentView content{runLoop, settings, hud, panel, fixture.notifications, haptics, logger};
+    IslandGestures gestures{runLoop, settings, fixture.notifications, hud, content};
+    FakeAppearance appearance;
+    IslandModel island{hud, content, panel, settings, appearance};
+    FakeAudioHardware audio;
+    AudioOutputPicker picker{audio, fixture.notifications};
+    FileTray tray{settings};
+    DashboardModel dashboard{runLoop, settings, hud, content, picker, tray, appearance};
 };
 
 } // namespace quillmere

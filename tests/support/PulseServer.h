@@ -1,20 +1,23 @@
 #pragma once
 
+#include "support/BusServer.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <optional>
 #include <stdexcept>
 #include <sys/prctl.h>
 #include <thread>
 
 namespace quillmere {
 
-/// A real PulseAudio server of our own, without hardware, in a runtime directory of its own.
-/// Creating the object points this process and its children at that directory; start() starts the
-/// server.
+/// A real sound server of our own, PulseAudio or PipeWire, without hardware, in a runtime directory
+/// of its own. Creating the object points this process and its children at that directory; start()
+/// and startPipeWire() start the server.
 class PulseServer
 {
 public:
@@ -22,7 +25,8 @@ public:
     {
         if (!directory_.isValid())
             throw std::runtime_error("no temporary directory");
-        for (const char *name : {"PULSE_SERVER", "PULSE_RUNTIME_PATH", "DISPLAY"})
+        for (const char *name : {"PULSE_SERVER", "PULSE_RUNTIME_PATH", "DISPLAY", "PIPEWIRE_REMOTE",
+                                 "DBUS_SESSION_BUS_ADDRESS"})
             qunsetenv(name);
         for (const char *name : {"XDG_RUNTIME_DIR", "HOME", "XDG_CONFIG_HOME"})
             qputenv(name, directory_.path().toUtf8());
@@ -43,22 +47,37 @@ public:
             arguments << QStringLiteral("-L") << nullSink(sink).join(u' ');
         arguments << QStringLiteral("-L")
                   << QStringLiteral("module-native-protocol-unix auth-anonymous=1");
-        process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
         process_.setProcessChannelMode(QProcess::ForwardedOutputChannel);
-        process_.start(QStringLiteral("pulseaudio"), arguments);
-        for (int attempt = 0; attempt < 300; ++attempt) {
-            if (run({QStringLiteral("info")}).exitCode == 0)
-                return;
-            std::this_thread::sleep_for(std::chrono::milliseconds(50));
-        }
-        throw std::runtime_error("pulseaudio did not start");
+        launch(process_, QStringLiteral("pulseaudio"), arguments);
+        waitFor([] { return run({QStringLiteral("info")}).exitCode == 0; });
+    }
+
+    /// Starts PipeWire with its session manager and its PulseAudio face, and waits for it. It has
+    /// no sinks but its placeholder.
+    void startPipeWire()
+    {
+        if (!bus_)
+            bus_.emplace(); // the session manager does not work without one
+        for (const char *name : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})
+            qputenv(name, bus_->address().toUtf8());
+        launch(pipeWire_, QStringLiteral("pipewire"), {});
+        waitFor(
+            [this] { return QFile::exists(directory_.filePath(QStringLiteral("pipewire-0"))); });
+        launch(sessionManager_, QStringLiteral("wireplumber"), {});
+        launch(process_, QStringLiteral("pipewire-pulse"), {});
+        waitFor([] {
+            return run(QStringLiteral("get-default-sink").split(u' ')).output ==
+                   QStringLiteral("auto_null");
+        });
     }
 
     /// Ends it the hard way, leaving its socket behind as a crash does.
     void kill()
     {
-        process_.kill();
-        process_.waitForFinished();
+        for (QProcess *process : {&process_, &sessionManager_, &pipeWire_}) {
+            process->kill();
+            process->waitForFinished();
+        }
     }
 
     /// Something that is no server happens where its socket is.
@@ -78,10 +97,16 @@ public:
         return result.output;
     }
 
-    /// Answers the module's number, for unload-module.
-    QString loadSink(const QString &name)
+    /// Answers the module's number, for unload-module. `properties` are words of key=value.
+    QString loadSink(const QString &name, const QString &properties = {})
     {
-        return pactl(QStringLiteral("load-module ") + nullSink(name).join(u' '));
+        QStringList arguments = QStringList(QStringLiteral("load-module")) + nullSink(name);
+        if (!properties.isEmpty())
+            arguments << QStringLiteral("sink_properties=\"%1\"").arg(properties);
+        const Result result = run(arguments);
+        if (result.exitCode != 0)
+            throw std::runtime_error("no sink " + name.toStdString());
+        return result.output;
     }
 
 private:
@@ -89,6 +114,24 @@ private:
         int exitCode;
         QString output;
     };
+
+    static void launch(QProcess &process, const QString &program, const QStringList &arguments)
+    {
+        process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+        process.setStandardErrorFile(QProcess::nullDevice());
+        process.start(program, arguments);
+    }
+
+    template <class Predicate>
+    static void waitFor(Predicate isThere)
+    {
+        for (int attempt = 0; attempt < 300; ++attempt) {
+            if (isThere())
+                return;
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        }
+        throw std::runtime_error("the sound server did not start");
+    }
 
     static QStringList nullSink(const QString &name)
     {
@@ -106,7 +149,10 @@ private:
     }
 
     QTemporaryDir directory_;
-    QProcess process_;
+    std::optional<BusServer> bus_;
+    QProcess pipeWire_;
+    QProcess sessionManager_;
+    QProcess process_; ///< what answers as PulseAudio
 };
 
 } // namespace quillmere

@@ -5,11 +5,18 @@
 #include "platform/Platform.h"
 #include "platform/RemoteControl.h"
 #include "platform/StatePublisher.h"
+#include "support/FakeAppearance.h"
 #include "support/FakeAudioHardware.h"
+#include "support/FakeBluetoothBatteries.h"
+#include "support/FakeDisplayBrightness.h"
+#include "support/FakeDragPasteboard.h"
 #include "support/FakeGlobalEvents.h"
+#include "support/FakeHaptics.h"
+#include "support/FakeHttpClient.h"
 #include "support/FakeLoginItem.h"
 #include "support/FakePanelWindow.h"
 #include "support/FakeScreens.h"
+#include "support/FakeStatusItem.h"
 #include "support/ManualRunLoop.h"
 #include "support/MemoryCloudStore.h"
 #include "support/MemoryUserDefaults.h"
@@ -51,7 +58,7 @@ protected:
 
     void launch(Duration settled = 5s)
     {
-        app.emplace(platform, library.path());
+        app.emplace(platform, library.path(), QStringLiteral("1.0"));
         app->launch([this] { ++terminations; });
         runLoop.advance(settled);
     }
@@ -79,8 +86,17 @@ protected:
     FakeAudioHardware audio;
     RecordedState state;
     HeldRemoteControl remote;
-    Platform platform{runLoop, notifications, defaults,     local, cloud, loginItem,
-                      screens, window,        globalEvents, audio, state, remote};
+    FakeDragPasteboard dragPasteboard;
+    FakeBluetoothBatteries batteries;
+    FakeDisplayBrightness display;
+    FakeHaptics haptics;
+    FakeAppearance appearance;
+    FakeStatusItem statusItem;
+    FakeHttpClient http;
+    Platform platform{runLoop,    notifications, defaults, local,        cloud,
+                      loginItem,  screens,       window,   globalEvents, dragPasteboard,
+                      audio,      batteries,     display,  haptics,      appearance,
+                      statusItem, http,          state,    remote};
     QTemporaryDir library;
     AudioDeviceID speakers = 0;
     int terminations = 0;

@@ -42,6 +42,7 @@ TEST(GlyphsTest, EverySymbolInUseDrawsAsItself)
     for (const QLatin1StringView name : symbols::all) {
         const QString symbol(name);
         EXPECT_TRUE(glyphs.contains(symbol)) << name.data();
+        EXPECT_TRUE(Glyphs::iconName(symbol).endsWith(QStringLiteral("-symbolic")));
         const QImage image = glyphs.image(symbol, 40, Qt::white);
         EXPECT_EQ(image.size(), QSize(40, 40));
         EXPECT_GT(coverage(image).solid, 100) << name.data();
@@ -64,26 +65,6 @@ TEST(GlyphsTest, TintReplacesTheColourAndKeepsDimmedParts)
             }
         }
     }
-}
-
-TEST(GlyphsTest, OurThemeComesBeforeOthers)
-{
-    QTemporaryDir ours;
-    QTemporaryDir theirs;
-    const auto write = [](const QTemporaryDir &dir, const char *path) {
-        QDir(dir.path()).mkpath(QStringLiteral("status"));
-        QFile file(dir.filePath(QStringLiteral("status/display-brightness-symbolic.svg")));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("<svg viewBox='0 0 16 16' xmlns='http://www.w3.org/2000/svg'><path d='");
-        file.write(path);
-        file.write("'/></svg>");
-    };
-    write(ours, "M0 0h8v16h-8z");
-    write(theirs, "M0 0h16v16h-16z");
-    Glyphs glyphs({ours.path(), theirs.path()});
-    const QImage image = glyphs.image(QString(symbols::sunMax), 16, Qt::red);
-    EXPECT_EQ(image.pixelColor(4, 8), QColor(Qt::red));
-    EXPECT_EQ(image.pixelColor(12, 8).alpha(), 0);
 }
 
 TEST(GlyphsTest, MissingGlyphIsVisibleAndLoggedOnce)

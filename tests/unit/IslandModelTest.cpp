@@ -47,15 +47,37 @@ TEST_F(IslandModelTest, LevelKeepsItsFaceAndOtherHUDsTakeTheOther)
     hud.showBrightness(80, 5);
     EXPECT_EQ(island.shownFace(), 1 - volume);
     EXPECT_EQ(island.contentDelay(), 0); // it has the right size
-    const HUDFace &former = volume == 0 ? island.firstFace() : island.secondFace();
+    const HUDFace &former = island.face(volume);
     EXPECT_DOUBLE_EQ(former.level, 0.45); // what fades out stays as it was
 
     message("One");
     const int first = island.shownFace();
     message("Two");
     EXPECT_EQ(island.shownFace(), 1 - first);
-    hud.dismissCurrentHUD();
+    content.dismissHUD();
     EXPECT_EQ(island.shownFace(), -1);
+}
+
+TEST_F(IslandModelTest, LevelTellsOnlyOfWhatItChanges)
+{
+    hud.showVolume(40, 5);
+    const bool first = island.shownFace() == 0;
+    FaceModel &shown = first ? *island.firstFace() : *island.secondFace();
+    QString told;
+    const auto listen = [&](FaceModel &face, auto changed, const char *name) {
+        QObject::connect(&face, changed, &face, [&told, &face, name] {
+            told += QStringLiteral("%1 %2; ").arg(QLatin1StringView(name), face.accessibleText());
+        });
+    };
+    listen(shown, &FaceModel::layoutChanged, "layout");
+    listen(shown, &FaceModel::sizeChanged, "size");
+    listen(shown, &FaceModel::barColorsChanged, "colors");
+    listen(shown, &FaceModel::levelChanged, "level");
+    listen(first ? *island.secondFace() : *island.firstFace(), &FaceModel::levelChanged, "other");
+    hud.showVolume(45, 5);
+    EXPECT_EQ(told, QStringLiteral("level %1; ").arg(island.accessibleText()));
+    hud.showVolume(45, 5);
+    EXPECT_EQ(told.count(QStringLiteral("level")), 1);
 }
 
 TEST_F(IslandModelTest, LevelFaceFollowsTheSettings)
@@ -114,13 +136,14 @@ TEST_F(IslandModelTest, InputReachesThePanel)
     const auto observer = fixture.notifications.observe(events::islandTapped,
                                                         [&taps](const QVariantMap &) { ++taps; });
     island.press();
-    EXPECT_EQ(taps, 1);
+    island.press();
+    EXPECT_EQ(taps, 2);
 
     double steps = 0;
     panel.onCollapsedScroll = [&steps](double turned) { steps += turned; };
-    island.wheel({}, {0, 120}); // one notch
+    island.wheel({}, {0, 120}, false); // one notch
     EXPECT_DOUBLE_EQ(steps, 1);
-    island.wheel({}, {0, -240});
+    island.wheel({}, {0, -240}, false);
     EXPECT_DOUBLE_EQ(steps, -1);
 }
 

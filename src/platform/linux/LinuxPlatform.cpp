@@ -1,23 +1,61 @@
 #include "platform/linux/LinuxPlatform.h"
 
 #include "platform/linux/core/XdgPaths.h"
+#include "platform/linux/dbus/DBusService.h"
 
 #include <QCoreApplication>
 
 namespace quillmere {
 
-LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, StatePublisher &statePublisher,
-                             RemoteControl &remoteControl)
+namespace {
+
+QDBusConnection sessionBus(const DBusService &bus)
+{
+    return bus.connection().value_or(QDBusConnection(QString()));
+}
+
+LinuxDisplayBrightness::Places displayPlaces()
+{
+    return {.ddcHelper = QCoreApplication::applicationDirPath() +
+                         QStringLiteral("/../libexec/quillmere/ddc-brightness")};
+}
+
+} // namespace
+
+LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService &bus,
+                             TrayStatusItem::DrawIcon drawIcon)
     : userDefaults_(runLoop, xdg::configHome() + QStringLiteral("/quillmere/defaults.json"))
     , localDefaults_(runLoop, xdg::configHome() + QStringLiteral("/quillmere/local.json"))
     , cloudStore_(runLoop, localDefaults_)
     , loginItem_(runLoop, xdg::configHome(), QCoreApplication::applicationFilePath())
-    , panelWindow_(panelWindow, observer_)
-    , globalEvents_(observer_.connection())
+    , windowSystem_(makeWindowSystem(panelWindow))
     , audioHardware_(runLoop)
-    , services_{runLoop,       notificationCenter_, userDefaults_,  localDefaults_,
-                cloudStore_,   loginItem_,          screens_,       panelWindow_,
-                globalEvents_, audioHardware_,      statePublisher, remoteControl}
+    , bluetoothBatteries_(runLoop)
+    , displayBrightness_(runLoop, displayPlaces())
+    , haptics_(sessionBus(bus))
+    , appearance_(runLoop, sessionBus(bus),
+                  DesktopAppearance::kdeGlobalsOfSession(xdg::configHome()))
+    , statusItem_(runLoop, bus.connection(), std::move(drawIcon))
+    , httpClient_(runLoop)
+    , services_{runLoop,
+                notificationCenter_,
+                userDefaults_,
+                localDefaults_,
+                cloudStore_,
+                loginItem_,
+                windowSystem_->screens(),
+                windowSystem_->panelWindow(),
+                windowSystem_->globalEvents(),
+                windowSystem_->dragPasteboard(),
+                audioHardware_,
+                bluetoothBatteries_,
+                displayBrightness_,
+                haptics_,
+                appearance_,
+                statusItem_,
+                httpClient_,
+                bus.statePublisher(),
+                bus.remoteControl()}
 {
 }
 

@@ -2,25 +2,30 @@
 
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
+#include "platform/linux/WindowSystem.h"
+#include "platform/linux/appearance/DesktopAppearance.h"
+#include "platform/linux/appearance/FeedbackdHaptics.h"
 #include "platform/linux/audio/PulseAudioHardware.h"
+#include "platform/linux/bluetooth/BusBluetoothBatteries.h"
 #include "platform/linux/desktop/AutostartLoginItem.h"
 #include "platform/linux/desktop/FileUserDefaults.h"
 #include "platform/linux/desktop/FolderCloudStore.h"
-#include "platform/linux/window/QtScreens.h"
-#include "platform/linux/window/X11GlobalEvents.h"
-#include "platform/linux/window/X11Observer.h"
-#include "platform/linux/window/X11PanelWindow.h"
+#include "platform/linux/display/LinuxDisplayBrightness.h"
+#include "platform/linux/net/QtHttpClient.h"
+#include "platform/linux/tray/TrayStatusItem.h"
 
 namespace quillmere {
 
+class DBusService;
+
 /// The Linux implementation of every system service. Needs the QGuiApplication; connects to nothing
-/// it would have to wait for. What other programs see and ask comes from outside, for that is there
-/// before anything else.
+/// it would have to wait for. The session bus comes from outside, for it is there before anything
+/// else.
 class LinuxPlatform
 {
 public:
-    LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, StatePublisher &statePublisher,
-                  RemoteControl &remoteControl);
+    LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService &bus,
+                  TrayStatusItem::DrawIcon drawIcon);
 
     Platform &services() { return services_; }
 
@@ -33,11 +38,14 @@ private:
     FileUserDefaults localDefaults_;
     FolderCloudStore cloudStore_;
     AutostartLoginItem loginItem_;
-    QtScreens screens_;
-    X11Observer observer_;
-    X11PanelWindow panelWindow_;
-    X11GlobalEvents globalEvents_;
+    std::unique_ptr<WindowSystem> windowSystem_;
     PulseAudioHardware audioHardware_;
+    BusBluetoothBatteries bluetoothBatteries_;
+    LinuxDisplayBrightness displayBrightness_;
+    FeedbackdHaptics haptics_;
+    DesktopAppearance appearance_;
+    TrayStatusItem statusItem_;
+    QtHttpClient httpClient_;
     Platform services_;
 };
 

@@ -55,9 +55,44 @@ Task PulseAudioHardware::onVolumeChanged(AudioDeviceID device, AudioProperty pro
     });
 }
 
-Task PulseAudioHardware::onDefaultOutputChanged(std::function<void()> listener)
+tl::expected<Task, int> PulseAudioHardware::onDefaultOutputChanged(std::function<void()> listener)
 {
     return defaultOutputListeners_.add(std::move(listener));
+}
+
+std::optional<AudioDevice> PulseAudioHardware::describe(AudioDeviceID device) const
+{
+    const PulseSink *sink = find(device);
+    return sink ? std::optional(sink->device) : std::nullopt;
+}
+
+QList<AudioOutput> PulseAudioHardware::outputs() const
+{
+    QList<AudioOutput> list;
+    if (outputsListeners_.isEmpty())
+        return list;
+    for (const auto &[id, sink] : outputs_)
+        list.append({id, sink.device.name.value_or(QString::fromUtf8(sink.name)),
+                     sink.device.formFactor, sink.device.isBluetooth, id == defaultOutputDevice()});
+    return list;
+}
+
+Task PulseAudioHardware::onOutputsChanged(std::function<void()> listener)
+{
+    if (outputsListeners_.isEmpty()) {
+        outputs_.clear();
+        if (sinkList_)
+            sinkList_->ask();
+    }
+    return outputsListeners_.add(std::move(listener));
+}
+
+void PulseAudioHardware::setDefaultOutput(AudioDeviceID device)
+{
+    // Both servers move what follows the default. Moving streams one by one would tie each of them
+    // to this device for good.
+    if (const PulseSink *sink = find(device))
+        letRun(pa_context_set_default_sink(context_, sink->name.constData(), nullptr, nullptr));
 }
 
 Task PulseAudioHardware::onAvailabilityChanged(std::function<void(bool)> listener)
@@ -68,6 +103,9 @@ Task PulseAudioHardware::onAvailabilityChanged(std::function<void(bool)> listene
 void PulseAudioHardware::connected(pa_context &context)
 {
     context_ = &context;
+    sinkList_.emplace(context, [this](auto sinks) { updateOutputs(std::move(sinks)); });
+    if (!outputsListeners_.isEmpty())
+        sinkList_->ask();
     defaultSink_.emplace(context, [this](const auto &sink) {
         const bool hadDevice = device_.has_value();
         const bool isFirst = !std::exchange(available_, true);
@@ -80,10 +118,12 @@ void PulseAudioHardware::connected(pa_context &context)
 void PulseAudioHardware::disconnected()
 {
     defaultSink_.reset();
+    sinkList_.reset();
     context_ = nullptr;
     ids_.clear();
     const bool wasAvailable = std::exchange(available_, false);
     update(std::nullopt);
+    updateOutputs({});
     if (wasAvailable)
         availabilityListeners_.notify(false);
 }
@@ -93,16 +133,39 @@ void PulseAudioHardware::changed(const PulseConnection::Event &event)
     if (event.facility == PA_SUBSCRIPTION_EVENT_SINK && event.type == PA_SUBSCRIPTION_EVENT_REMOVE)
         ids_.erase(event.index);
     defaultSink_->handle(event);
+    if (event.facility == PA_SUBSCRIPTION_EVENT_SINK && !outputsListeners_.isEmpty())
+        sinkList_->ask();
 }
 
 void PulseAudioHardware::update(const std::optional<PulseSink> &sink)
 {
     const auto before = std::exchange(device_, describe(sink));
     const AudioDeviceID idBefore = before ? before->id : 0;
-    if (defaultOutputDevice() != idBefore)
+    if (defaultOutputDevice() != idBefore) {
         defaultOutputListeners_.notify();
-    else if (device_ && device_->level() != before->level())
+        outputsListeners_.notify();
+    } else if (device_ && device_->level() != before->level()) {
         volumeListeners_.notify(device_->id);
+    }
+}
+
+void PulseAudioHardware::updateOutputs(std::vector<PulseSink> sinks)
+{
+    const auto before = outputs();
+    outputs_.clear();
+    for (PulseSink &sink : sinks)
+        if (!sink.isPlaceholder())
+            outputs_.push_back({idOf(sink.index), std::move(sink)});
+    if (outputs() != before)
+        outputsListeners_.notify();
+}
+
+const PulseSink *PulseAudioHardware::find(AudioDeviceID device) const
+{
+    if (device_ && device_->id == device)
+        return &device_->sink;
+    const auto found = std::ranges::find(outputs_, device, &Output::id);
+    return found == outputs_.end() ? nullptr : &found->sink;
 }
 
 std::optional<PulseAudioHardware::Device>

@@ -74,7 +74,7 @@ void PulseDefaultSink::takeSink(pa_context *, const pa_sink_info *sink, int end,
     auto *reader = static_cast<PulseDefaultSink *>(self);
     if (end)
         return reader->finish();
-    reader->answer_ = PulseSink{sink->index, sink->volume, sink->mute != 0};
+    reader->answer_ = readSink(*sink);
 }
 
 void PulseDefaultSink::finish()

@@ -1,21 +1,12 @@
 #pragma once
 
 #include "platform/linux/audio/PulseConnection.h"
-
-#include <pulse/introspect.h>
+#include "platform/linux/audio/PulseSink.h"
 
 #include <functional>
 #include <optional>
-#include <string>
 
 namespace quillmere {
-
-/// What is known of one sink, copied out of the server's answer.
-struct PulseSink {
-    std::uint32_t index = PA_INVALID_INDEX;
-    pa_cvolume volume{};
-    bool muted = false;
-};
 
 /// Follows the default sink of one connection.
 ///

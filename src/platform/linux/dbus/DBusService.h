@@ -43,6 +43,10 @@ public:
     RemoteControl &remoteControl() { return inbox_; }
     StatePublisher &statePublisher() { return state_; }
 
+    /// The session bus, for what else is offered there; nothing before start() is done, without a
+    /// bus, and after it has died.
+    const std::optional<QDBusConnection> &connection() const { return connection_; }
+
 private:
     void useBus(const QDBusConnection &connection);
     void watchBus();

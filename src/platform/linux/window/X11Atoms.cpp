@@ -10,7 +10,7 @@ namespace quillmere {
 
 X11Atoms X11Atoms::intern(xcb_connection_t *connection, int screenNumber)
 {
-    const std::array<std::pair<std::string, xcb_atom_t X11Atoms::*>, 9> names{{
+    const std::array<std::pair<std::string, xcb_atom_t X11Atoms::*>, 14> names{{
         {"_NET_ACTIVE_WINDOW", &X11Atoms::activeWindow},
         {"_NET_CLIENT_LIST_STACKING", &X11Atoms::clientListStacking},
         {"_NET_WM_STATE", &X11Atoms::windowState},
@@ -20,6 +20,11 @@ X11Atoms X11Atoms::intern(xcb_connection_t *connection, int screenNumber)
         {"_NET_WM_WINDOW_TYPE_DOCK", &X11Atoms::dock},
         {"_COMPTON_SHADOW", &X11Atoms::comptonShadow},
         {"_GTK_FRAME_EXTENTS", &X11Atoms::frameExtents},
+        {"XdndSelection", &X11Atoms::dragSelection},
+        {"TARGETS", &X11Atoms::targets},
+        {"text/uri-list", &X11Atoms::uriList},
+        {"INCR", &X11Atoms::incremental},
+        {"QUILLMERE_DRAG", &X11Atoms::dragContent},
     }};
     std::array<xcb_intern_atom_cookie_t, names.size()> cookies{};
     for (std::size_t i = 0; i < names.size(); ++i) {

@@ -15,6 +15,11 @@ struct X11Atoms {
     xcb_atom_t dock = XCB_ATOM_NONE;
     xcb_atom_t comptonShadow = XCB_ATOM_NONE;
     xcb_atom_t frameExtents = XCB_ATOM_NONE;
+    xcb_atom_t dragSelection = XCB_ATOM_NONE; ///< owned by whoever has started the latest drag
+    xcb_atom_t targets = XCB_ATOM_NONE;
+    xcb_atom_t uriList = XCB_ATOM_NONE;
+    xcb_atom_t incremental = XCB_ATOM_NONE;
+    xcb_atom_t dragContent = XCB_ATOM_NONE; ///< where we have it delivered
 
     /// Waits for the server once; for start-up.
     static X11Atoms intern(xcb_connection_t *connection, int screenNumber);

@@ -8,6 +8,7 @@
 #include <xcb/xinput.h>
 
 #include <algorithm>
+#include <chrono>
 
 namespace quillmere {
 
@@ -20,6 +21,9 @@ constexpr unsigned int lastWheelButton = 7;
 /// A window manager puts a client into a frame or two; deeper windows belong to other programs.
 constexpr int deepestOwnWindow = 4;
 
+/// A mouse may report a thousand motions a second, and a drag is seen soon enough with these.
+constexpr std::chrono::milliseconds motionInterval{50};
+
 bool isOwnWindow(xcb_window_t id)
 {
     const auto windows = QGuiApplication::allWindows();
@@ -28,11 +32,19 @@ bool isOwnWindow(xcb_window_t id)
     });
 }
 
+bool isWheel(unsigned int button)
+{
+    return button >= firstWheelButton && button <= lastWheelButton;
+}
+
 } // namespace
 
 X11GlobalEvents::X11GlobalEvents(XcbConnection &connection)
     : connection_(connection)
 {
+    motionPause_.setSingleShot(true);
+    motionPause_.setInterval(motionInterval);
+    QObject::connect(&motionPause_, &QTimer::timeout, &motionPause_, [this] { selectRawEvents(); });
     if (!connection_.isOpen())
         return;
     const auto *input = xcb_get_extension_data(connection_.raw(), &xcb_input_id);
@@ -45,32 +57,66 @@ X11GlobalEvents::X11GlobalEvents(XcbConnection &connection)
     events_ = connection_.onEvent([this](const xcb_generic_event_t &event) { handle(event); });
 }
 
-Task X11GlobalEvents::onLeftMouseDown(std::function<void(QPointF position)> listener)
+GlobalEvents::Capabilities X11GlobalEvents::capabilities() const
 {
-    if (listeners_.isEmpty())
-        selectRawEvents(true);
-    auto registration = std::make_shared<Task>(listeners_.add(std::move(listener)));
+    return {.drags = inputOpcode_ != 0};
+}
+
+Task X11GlobalEvents::onLeftMouseDown(Listener listener)
+{
+    return listen(downListeners_, std::move(listener));
+}
+
+Task X11GlobalEvents::onLeftMouseDragged(Listener listener)
+{
+    return listen(dragListeners_, std::move(listener));
+}
+
+Task X11GlobalEvents::onLeftMouseUp(Listener listener)
+{
+    return listen(upListeners_, std::move(listener));
+}
+
+Task X11GlobalEvents::listen(Positions &listeners, Listener listener)
+{
+    if (!wantsPresses() && inputOpcode_ != 0 && connection_.isOpen())
+        queryButtonMap();
+    auto registration = std::make_shared<Task>(listeners.add(std::move(listener)));
+    selectRawEvents();
     return Task([this, registration, alive = owner_.reference()] {
         if (alive.expired())
             return;
         registration->cancel();
-        if (listeners_.isEmpty())
-            selectRawEvents(false);
+        selectRawEvents();
     });
 }
 
-void X11GlobalEvents::selectRawEvents(bool on)
+bool X11GlobalEvents::wantsPresses() const
+{
+    return !downListeners_.isEmpty() || !dragListeners_.isEmpty() || !upListeners_.isEmpty();
+}
+
+void X11GlobalEvents::selectRawEvents()
 {
     if (inputOpcode_ == 0 || !connection_.isOpen())
         return;
     struct {
         xcb_input_event_mask_t head;
         std::uint32_t mask;
-    } selection{{XCB_INPUT_DEVICE_ALL_MASTER, 1},
-                on ? std::uint32_t{XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS} : 0U};
+    } selection{{XCB_INPUT_DEVICE_ALL_MASTER, 1}, 0};
+    if (wantsPresses())
+        selection.mask |= XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS;
+    if (!dragListeners_.isEmpty() || !upListeners_.isEmpty())
+        selection.mask |= XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_RELEASE;
+    if (!dragListeners_.isEmpty() && dragButton_ != 0 && !motionPause_.isActive())
+        selection.mask |= XCB_INPUT_XI_EVENT_MASK_RAW_MOTION;
+    if (std::exchange(selectedEvents_, selection.mask) == selection.mask)
+        return;
+    if (!(selection.mask & XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_RELEASE)) {
+        heldButtons_.reset();
+        dragButton_ = 0;
+    }
     xcb_input_xi_select_events(connection_.raw(), connection_.root(), 1, &selection.head);
-    if (on)
-        queryButtonMap();
     connection_.flush();
 }
 
@@ -91,18 +137,58 @@ void X11GlobalEvents::handle(const xcb_generic_event_t &event)
 {
     const int type = event.response_type & 0x7f;
     if (type == XCB_MAPPING_NOTIFY) {
-        if (!listeners_.isEmpty())
+        if (wantsPresses())
             queryButtonMap();
         return;
     }
     if (type != XCB_GE_GENERIC)
         return;
     const auto &generic = reinterpret_cast<const xcb_ge_generic_event_t &>(event);
-    if (generic.extension != inputOpcode_ || generic.event_type != XCB_INPUT_RAW_BUTTON_PRESS)
+    if (generic.extension != inputOpcode_)
         return;
-    const auto button = reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event).detail;
-    if (button < firstWheelButton || button > lastWheelButton)
-        locate(button, connection_.root(), 0);
+    const auto button = [&event] {
+        return reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event).detail;
+    };
+    switch (generic.event_type) {
+    case XCB_INPUT_RAW_BUTTON_PRESS:
+        return pressed(button());
+    case XCB_INPUT_RAW_BUTTON_RELEASE:
+        return released(button());
+    case XCB_INPUT_RAW_MOTION:
+        return moved();
+    default:
+        return;
+    }
+}
+
+void X11GlobalEvents::pressed(unsigned int button)
+{
+    if (isWheel(button))
+        return;
+    const bool hearsRelease = selectedEvents_ & XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_RELEASE;
+    if (hearsRelease && button < heldButtons_.size())
+        heldButtons_.set(button);
+    locate(button, connection_.root(), 0);
+}
+
+void X11GlobalEvents::released(unsigned int button)
+{
+    if (button < heldButtons_.size())
+        heldButtons_.reset(button);
+    if (button == 0 || button != dragButton_)
+        return;
+    dragButton_ = 0;
+    selectRawEvents();
+    notifyOfPointer(upListeners_);
+}
+
+void X11GlobalEvents::moved()
+{
+    if (dragButton_ == 0 || motionPause_.isActive())
+        return;
+    motionPause_.start();
+    selectRawEvents();
+    notifyOfPointer(dragListeners_);
 }
 
 bool X11GlobalEvents::isLeft(unsigned int physicalButton) const
@@ -124,7 +210,31 @@ void X11GlobalEvents::locate(unsigned int physicalButton, xcb_window_t window, i
             if (reply->child != XCB_WINDOW_NONE && depth < deepestOwnWindow)
                 locate(physicalButton, reply->child, depth + 1);
             else
-                listeners_.notify(toLogical({reply->root_x, reply->root_y}));
+                leftPressed(physicalButton, toLogical({reply->root_x, reply->root_y}));
+        });
+    connection_.flush();
+}
+
+void X11GlobalEvents::leftPressed(unsigned int physicalButton, QPointF position)
+{
+    downListeners_.notify(position);
+    if (physicalButton < heldButtons_.size() && heldButtons_.test(physicalButton)) {
+        dragButton_ = physicalButton;
+        selectRawEvents();
+    } else {
+        upListeners_.notify(position); // let go before the press was located
+    }
+}
+
+void X11GlobalEvents::notifyOfPointer(const Positions &listeners)
+{
+    if (listeners.isEmpty())
+        return;
+    connection_.await<xcb_query_pointer_reply_t>(
+        owner_, xcb_query_pointer(connection_.raw(), connection_.root()),
+        [&listeners](const auto *reply) {
+            if (reply)
+                listeners.notify(toLogical({reply->root_x, reply->root_y}));
         });
     connection_.flush();
 }

@@ -102,7 +102,8 @@ void X11Observer::handle(const xcb_generic_event_t &event)
         if (as<xcb_map_notify_event_t>(event).window == activeWindow_)
             queryFullscreen();
     } else if (xfixesEvents_ && type == *xfixesEvents_ + XCB_XFIXES_SELECTION_NOTIFY) {
-        queryCompositor();
+        if (as<xcb_xfixes_selection_notify_event_t>(event).selection == atoms_.compositor)
+            queryCompositor();
     }
 }
 

@@ -1,0 +1,50 @@
+#include "platform/Endpoints.h"
+
+#include <QDebug>
+
+#include <algorithm>
+#include <array>
+
+namespace quillmere {
+
+namespace {
+
+struct Row {
+    EndpointName name;
+    QLatin1StringView variable;
+    QLatin1StringView address;
+};
+
+constexpr std::array rows{
+    Row{EndpointName::UpdateFeed, QLatin1StringView{"QUILLMERE_UPDATE_FEED_URL"},
+        QLatin1StringView{QUILLMERE_UPDATE_FEED_URL}},
+};
+
+constexpr QLatin1StringView loopback{"127.0.0.1"};
+
+} // namespace
+
+Endpoint endpoint(EndpointName name)
+{
+    const auto row = std::ranges::find(rows, name, &Row::name);
+    const QString replacement = qEnvironmentVariable(row->variable.latin1());
+    if (replacement.isEmpty())
+        return {QUrl(row->address), false};
+    const QUrl url(replacement, QUrl::StrictMode);
+    if (mayRequest(url, true))
+        return {url, true};
+    qWarning("[Endpoints] %s is neither https nor http on 127.0.0.1; ignored",
+             row->variable.latin1());
+    return {QUrl(row->address), false};
+}
+
+bool mayRequest(const QUrl &url, bool isReplaced)
+{
+    if (!url.isValid() || url.host().isEmpty())
+        return false;
+    if (url.scheme() == QLatin1StringView("https"))
+        return true;
+    return isReplaced && url.scheme() == QLatin1StringView("http") && url.host() == loopback;
+}
+
+} // namespace quillmere

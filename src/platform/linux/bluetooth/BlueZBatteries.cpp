@@ -1,0 +1,120 @@
+#include "platform/linux/bluetooth/BlueZBatteries.h"
+
+#include "platform/BluetoothAddress.h"
+#include "platform/linux/dbus/BusNames.h"
+
+#include <QDBusArgument>
+#include <QDBusObjectPath>
+
+#include <utility>
+
+namespace quillmere {
+
+namespace {
+
+using namespace std::chrono_literals;
+using Interfaces = QMap<QString, QVariantMap>;
+using Objects = QMap<QDBusObjectPath, Interfaces>;
+
+constexpr Duration answerLimit = 5s;
+constexpr QLatin1StringView managerInterface{"org.freedesktop.DBus.ObjectManager"};
+constexpr QLatin1StringView batteryInterface{"org.bluez.Battery1"};
+
+/// A value of another shape than expected reads as an empty one.
+template <class Value>
+Value unpack(const QVariant &argument, QLatin1StringView signature)
+{
+    if (!argument.canConvert<QDBusArgument>())
+        return {};
+    const auto packed = argument.value<QDBusArgument>();
+    return packed.currentSignature() == signature ? qdbus_cast<Value>(packed) : Value();
+}
+
+} // namespace
+
+BlueZBatteries::BlueZBatteries(const QDBusConnection &bus, const QString &owner,
+                               std::function<void()> onChanged)
+    : onChanged_(std::move(onChanged))
+    , calls_(bus)
+{
+    subscribe(owner);
+    readAll(owner);
+}
+
+std::optional<int> BlueZBatteries::percent(const QString &address) const
+{
+    const auto found = percents_.find(address);
+    return found == percents_.end() ? std::nullopt : std::optional(found->second);
+}
+
+void BlueZBatteries::subscribe(const QString &owner)
+{
+    // By unique name, so that nobody else is believed and the library asks the bus nothing; and of
+    // the properties only the battery's, for a search for devices changes others all the time.
+    QDBusConnection bus = calls_.connection();
+    const QString root = QStringLiteral("/");
+    bus.connect(owner, root, managerInterface, QStringLiteral("InterfacesAdded"), this,
+                SLOT(interfacesAdded(QDBusMessage)));
+    bus.connect(owner, root, managerInterface, QStringLiteral("InterfacesRemoved"), this,
+                SLOT(interfacesRemoved(QDBusMessage)));
+    bus.connect(owner, {}, bus::propertiesInterface, QStringLiteral("PropertiesChanged"),
+                QStringList(QString(batteryInterface)), {}, this,
+                SLOT(propertiesChanged(QDBusMessage)));
+}
+
+void BlueZBatteries::readAll(const QString &owner)
+{
+    const auto question = QDBusMessage::createMethodCall(
+        owner, QStringLiteral("/"), managerInterface, QStringLiteral("GetManagedObjects"));
+    calls_.call(question, answerLimit, [this](const BusReply &reply) {
+        if (!reply) {
+            qWarning("[Bluetooth] BlueZ does not tell its devices: %s",
+                     qUtf8Printable(reply.error().message()));
+            return;
+        }
+        const auto objects = unpack<Objects>(reply->value(0), QLatin1StringView("a{oa{sa{sv}}}"));
+        for (auto object = objects.begin(); object != objects.end(); ++object)
+            take(object.key().path(), object->value(batteryInterface));
+    });
+}
+
+void BlueZBatteries::take(const QString &path, const QVariantMap &battery)
+{
+    const QVariant value = battery.value(QStringLiteral("Percentage"));
+    const QString address = bluetoothAddressIn(path); // objects are named by their address
+    if (!value.isValid() || address.isEmpty())
+        return;
+    bool isNumber = false;
+    const int percent = value.toInt(&isNumber);
+    if (!isNumber || percent < 0 || percent > 100) {
+        qWarning("[Bluetooth] A battery of %d percent is ignored", percent);
+        return;
+    }
+    const auto [entry, isNew] = percents_.try_emplace(address, percent);
+    if (std::exchange(entry->second, percent) != percent || isNew)
+        onChanged_();
+}
+
+void BlueZBatteries::interfacesAdded(const QDBusMessage &message)
+{
+    const auto path = message.arguments().value(0).value<QDBusObjectPath>().path();
+    const auto interfaces =
+        unpack<Interfaces>(message.arguments().value(1), QLatin1StringView("a{sa{sv}}"));
+    take(path, interfaces.value(batteryInterface));
+}
+
+void BlueZBatteries::interfacesRemoved(const QDBusMessage &message)
+{
+    const auto path = message.arguments().value(0).value<QDBusObjectPath>().path();
+    if (message.arguments().value(1).toStringList().contains(batteryInterface) &&
+        percents_.erase(bluetoothAddressIn(path)) > 0)
+        onChanged_();
+}
+
+void BlueZBatteries::propertiesChanged(const QDBusMessage &message)
+{
+    take(message.path(),
+         unpack<QVariantMap>(message.arguments().value(1), QLatin1StringView("a{sv}")));
+}
+
+} // namespace quillmere

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/linux/dbus/BusCalls.h"
+
+#include <QObject>
+#include <QVariantMap>
+
+#include <functional>
+#include <map>
+#include <optional>
+
+namespace quillmere {
+
+/// The batteries that one run of BlueZ knows, by device address. Main thread only.
+class BlueZBatteries : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `owner` is BlueZ's unique name.
+    BlueZBatteries(const QDBusConnection &bus, const QString &owner,
+                   std::function<void()> onChanged);
+
+    std::optional<int> percent(const QString &address) const;
+
+private:
+    void subscribe(const QString &owner);
+    void readAll(const QString &owner);
+    void take(const QString &path, const QVariantMap &battery);
+
+    Q_SLOT void interfacesAdded(const QDBusMessage &message);
+    Q_SLOT void interfacesRemoved(const QDBusMessage &message);
+    Q_SLOT void propertiesChanged(const QDBusMessage &message);
+
+    std::function<void()> onChanged_;
+    std::map<QString, int> percents_;
+    BusCalls calls_;
+};
+
+} // namespace quillmere

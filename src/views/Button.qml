@@ -1,0 +1,70 @@
+import QtQuick
+import Quillmere
+
+// Glyph, text or both. A press is enough: nothing here is worth a second thought.
+Item {
+    id: button
+
+    property string symbol
+    property string text
+    property string description: text
+    property bool flat: false
+    property real maximumWidth: 400
+
+    signal pressed()
+
+    width: text === "" ? 28 : Math.min(row.implicitWidth + 24, maximumWidth)
+    height: flat ? 28 : 32
+    activeFocusOnTab: true
+
+    Accessible.role: Accessible.Button
+    Accessible.name: text === "" ? description : text
+    Accessible.description: description
+    Accessible.onPressAction: pressed()
+    Keys.onReturnPressed: pressed()
+    Keys.onSpacePressed: pressed()
+
+    Rectangle {
+        anchors.fill: parent
+        radius: height / 2
+        color: area.containsPress ? Ink.pressed : hover.hovered ? Ink.raised : Ink.card
+        visible: !button.flat || hover.hovered || area.containsPress
+        border.width: button.activeFocus ? 1.5 : 0
+        border.color: Ink.content
+    }
+    Row {
+        id: row
+
+        anchors.centerIn: parent
+        spacing: 8
+
+        Glyph {
+            id: glyph
+
+            width: 16
+            height: 16
+            anchors.verticalCenter: parent.verticalCenter
+            visible: button.symbol !== ""
+            symbol: button.symbol
+            color: Ink.content
+        }
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, button.maximumWidth - 48)
+            visible: text !== ""
+            text: button.text
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            font: Type.text
+            color: Ink.content
+        }
+    }
+    HoverHandler {
+        id: hover
+    }
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        onPressed: button.pressed()
+    }
+}

@@ -1,0 +1,7 @@
+import QtQuick
+import Quillmere
+
+Rectangle {
+    radius: 14
+    color: Ink.card
+}

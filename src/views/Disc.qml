@@ -1,0 +1,7 @@
+import QtQuick
+import Quillmere
+
+Rectangle {
+    height: width
+    radius: width / 2
+}
