@@ -1,4 +1,5 @@
 #include "app/AppEvents.h"
+#include "app/FileTray.h"
 #include "app/QuillmereApp.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
@@ -225,6 +226,98 @@ TEST_F(AppDelegateTest, OtherProgramsReachTheActionsThatExist)
     EXPECT_EQ(terminations, 0);
     EXPECT_TRUE(act("quit"));
     EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(AppDelegateTest, ABrightnessStepIsShownAndTheDriftGoesBy)
+{
+    display.level = 0.5;
+    display.setAvailable(true);
+    launch();
+    display.level = 0.52;
+    runLoop.advance(1s);
+    EXPECT_FALSE(showsHUD());
+    display.level = 0.6;
+    runLoop.advance(300ms);
+    EXPECT_EQ(state.hud().value(QStringLiteral("type")), QStringLiteral("brightness"));
+    runLoop.advance(2s);
+    defaults.changeFromOutside(QStringLiteral("displayHUDsEnabled"), false);
+    display.level = 0.9;
+    runLoop.advance(1s);
+    EXPECT_FALSE(showsHUD());
+}
+
+TEST_F(AppDelegateTest, AHeadsetIsAnnouncedOnceAndItsChargeJoinsLater)
+{
+    const auto headset = audio.add({.mainVolume = 0.5F,
+                                    .facts = {.name = QStringLiteral("AirPods Pro"),
+                                              .isBluetooth = true,
+                                              .bluetoothAddress = QStringLiteral("AA:BB")}});
+    audio.setDefault(headset); // connected before the start
+    launch();
+    EXPECT_FALSE(showsHUD());
+    audio.setDefault(speakers);
+    runLoop.advance(3s);
+    audio.setDefault(headset);
+    runLoop.settle();
+    EXPECT_EQ(state.hud().value(QStringLiteral("title")), QStringLiteral("AirPods Pro"));
+    EXPECT_EQ(state.hud().value(QStringLiteral("icon")), QStringLiteral("airpods"));
+    EXPECT_FALSE(state.hud().contains(QStringLiteral("level")));
+    batteries.set(QStringLiteral("AA:BB"), 83);
+    EXPECT_DOUBLE_EQ(state.hud().value(QStringLiteral("level")).toDouble(), 0.83);
+    EXPECT_EQ(app->hudManager().hudQueue().size(), 1);
+    runLoop.advance(6s);
+    EXPECT_FALSE(showsHUD());
+    batteries.set(QStringLiteral("AA:BB"), 82);
+    EXPECT_FALSE(showsHUD());
+    EXPECT_FALSE(batteries.isWatched());
+}
+
+TEST_F(AppDelegateTest, DroppedFilesAreConfirmedAndKeptInTheTray)
+{
+    FileTray *tray = nullptr;
+    defaults.changeFromOutside(QStringLiteral("fileTrayMaxItems"), 2);
+    app.emplace(platform, library.path(), QStringLiteral("1.0"));
+    app->appDelegate().onIslandCreated = [&](Island island) { tray = &island.fileTray; };
+    app->launch([] {});
+    runLoop.advance(4s);
+    const QUrl first(QStringLiteral("file:///a"));
+    const QUrl second(QStringLiteral("file:///b"));
+    app->appDelegate().filesDroppedOnIsland({first});
+    EXPECT_EQ(state.hud().value(QStringLiteral("title")), QStringLiteral("File Added"));
+    app->appDelegate().filesDroppedOnIsland({second, QUrl(QStringLiteral("file:///c"))});
+    app->appDelegate().filesDroppedOnIsland({first});
+    EXPECT_EQ(tray->files(), (QList<QUrl>{first, second}));
+    runLoop.advance(3s);
+    EXPECT_FALSE(showsHUD());
+}
+
+TEST_F(AppDelegateTest, TheStatusMenuAndTheUpdateItFinds)
+{
+    qputenv("QUILLMERE_UPDATE_FEED_URL", "http://127.0.0.1:1/feed");
+    launch();
+    qunsetenv("QUILLMERE_UPDATE_FEED_URL");
+    int settingsRequests = 0;
+    const auto token = notifications.observe(events::openSettingsRequest,
+                                             [&](const QVariantMap &) { ++settingsRequests; });
+    const auto choose = [this](const char *title) {
+        for (const auto &entry : statusItem.shown->menu) {
+            if (entry.title == QString::fromUtf8(title))
+                entry.action();
+        }
+    };
+    choose("Settings…");
+    EXPECT_EQ(settingsRequests, 1);
+    choose("Check for Updates…");
+    ASSERT_TRUE(http.answer(HttpResponse{.status = 200, .body = R"(
+        <rss xmlns:s="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel><item>
+        <title>Two</title><link>https://example.org/2</link><s:version>2.0</s:version>
+        </item></channel></rss>)"}));
+    EXPECT_EQ(state.hud().value(QStringLiteral("contentURL")),
+              QStringLiteral("https://example.org/2"));
+    choose("Quit Quillmere");
+    EXPECT_EQ(terminations, 1);
+    app->terminate();
+    EXPECT_FALSE(statusItem.shown);
 }
 
 TEST_F(AppDelegateTest, AfterTerminationNothingListensAnyMore)
