@@ -14,7 +14,7 @@ constexpr double shadowDrop = 6;
 constexpr double shadowSigma = 18;
 const QColor shadowColor(0, 0, 0, 71); // 28 %
 const QColor bodyColor(Qt::black);
-const QColor hairlineColor(255, 255, 255, 31); // 12 %
+constexpr double hairlineAlpha = 0.12; // of white
 
 struct Body {
     QSizeF frame;
@@ -65,26 +65,50 @@ void paintShadow(QPainter &painter, const Body &body)
     });
 }
 
-/// Glass would show the shadow that lies below it.
-void clipAwayBody(QPainter &painter, const Body &body)
+QColor withAlpha(QColor color, double alpha)
 {
-    QPainterPath around;
-    around.addRect(shadowOf(body).extent());
-    around.addPath(silhouettePath(body.frame, body.cornerRadius).translated(-earRadius, 0));
-    painter.setClipPath(around, Qt::IntersectClip);
+    color.setAlphaF(static_cast<float>(alpha));
+    return color;
+}
+
+/// What white of this alpha laid on black of that alpha looks like.
+QColor whiteOnBlack(double white, double black)
+{
+    const double alpha = white + black * (1 - white);
+    const auto shade = static_cast<float>(white / alpha);
+    return QColor::fromRgbF(shade, shade, shade, static_cast<float>(alpha));
+}
+
+/// Replaces what is there: glass must not show the shadow below it. Replacing is also what the
+/// painter does at once; to blend, it wakes other threads, which costs more than the fill.
+void replace(QPainter &painter, const QPainterPath &path, const QColor &color)
+{
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    const double opacity = painter.opacity();
+    painter.setOpacity(1);
+    painter.fillPath(path, withAlpha(color, color.alphaF() * opacity));
+    painter.restore();
+}
+
+/// The body without its outermost unit. An ear's edge faces outwards below, not beside it.
+QPainterPath insideOfHairline(const Body &body)
+{
+    return silhouettePath(body.frame - QSizeF(2, 0), body.cornerRadius - 1).translated(1, -1);
 }
 
 void paintBody(QPainter &painter, const Body &body, double alpha)
 {
     painter.translate(-earRadius, 0);
+    const QColor surface = withAlpha(bodyColor, alpha);
     const QPainterPath path = silhouettePath(body.frame, body.cornerRadius);
-    QColor color = bodyColor;
-    color.setAlphaF(static_cast<float>(alpha));
-    painter.fillPath(path, color);
-    if (alpha >= 1)
+    if (alpha >= 1) {
+        replace(painter, path, surface);
         return;
-    painter.setClipPath(path, Qt::IntersectClip); // of a stroke, the inner half
-    painter.strokePath(path, QPen(hairlineColor, 2));
+    }
+    replace(painter, path, whiteOnBlack(hairlineAlpha, alpha));
+    painter.setClipRect(path.boundingRect().adjusted(0, 1, 0, 0), Qt::IntersectClip);
+    replace(painter, insideOfHairline(body), surface);
 }
 
 } // namespace
@@ -113,11 +137,7 @@ Drawing Silhouette::drawing() const
     QRectF bounds = shadowOf(body).extent();
     bounds.setTop(0);
     const auto paint = [body, alpha = surfaceAlpha_](QPainter &painter) {
-        painter.save();
-        if (alpha < 1)
-            clipAwayBody(painter, body);
         paintShadow(painter, body);
-        painter.restore();
         paintBody(painter, body, alpha);
     };
     return {bounds, paint};

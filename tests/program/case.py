@@ -13,10 +13,11 @@ SANITIZED = os.environ.get("QUILLMERE_SANITIZED") == "1"
 class DesktopTest(unittest.TestCase):
     """A fresh desktop for every test; the test starts the program itself."""
 
+    kind = PrivateDesktop
     scale = 1
 
     def setUp(self):
-        self.desktop = self.enterContext(PrivateDesktop(self.scale))
+        self.desktop = self.enterContext(self.kind(self.scale))
 
     def start_island(self, defaults=None):
         island = self.enterContext(Island(self.desktop, BUILD, defaults))
@@ -35,8 +36,13 @@ class IslandTest(unittest.TestCase):
     defaults = {}
 
     @classmethod
+    def prepare(cls):
+        """Before the program starts, on its desktop."""
+
+    @classmethod
     def setUpClass(cls):
         cls.desktop = cls.enterClassContext(PrivateDesktop(cls.scale))
+        cls.prepare()
         cls.island = cls.enterClassContext(Island(cls.desktop, BUILD, cls.defaults))
         cls.island.wait_out_mute()
 

@@ -66,6 +66,7 @@ class PrivateDesktop:
         self.compositor = compositor
         self.primary = Monitor("QM-A", 1512 * scale, 982 * scale, 0)
         self.secondary = Monitor("QM-B", 1280 * scale, 800 * scale, self.primary.width)
+        self.hardware_env = {}  # what shows a program the hardware that was added, see backlight.py
         self._processes = []
         self._sound = None
 
@@ -292,8 +293,38 @@ class PrivateDesktop:
     def set_muted(self, muted):
         self.pactl("set-sink-mute", "@DEFAULT_SINK@", "1" if muted else "0")
 
+    def connect_headset(self, name="AirPods Pro", form_factor="headset"):
+        """A Bluetooth sink comes and sound goes to it, as a sound server does it; returns it for
+        disconnect_headset. Both kinds of server understand it."""
+        sink = "bluez_sink.AA_BB_CC_DD_EE_FF.a2dp_sink"
+        properties = f"device.description='{name}' device.bus=bluetooth device.api=bluez"
+        properties += f" device.string=AA:BB:CC:DD:EE:FF device.form_factor={form_factor}"
+        module = self.pactl("load-module", "module-null-sink", f"sink_name={sink}", f'sink_properties="{properties}"')
+        wait_until(lambda: sink in self.pactl("list", "short", "sinks"), what="the headset")
+        self.pactl("set-default-sink", sink)
+        return module.strip()
+
+    def disconnect_headset(self, headset):
+        self.pactl("set-default-sink", "speakers")
+        self.pactl("unload-module", headset)
+
     def sound_console(self):
         return SoundConsole(str(self._sound_socket))
+
+
+class PipeWireDesktop(PrivateDesktop):
+    """The same with PipeWire, which speaks PulseAudio's protocol: no sound_console()."""
+
+    def start_sound_server(self):
+        self.spawn(["pipewire"], "pipewire.log")
+        wait_until((self.dir / "run" / "pipewire-0").exists, what="PipeWire")
+        self.spawn(["wireplumber"], "wireplumber.log")
+        self.spawn(["pipewire-pulse"], "pipewire-pulse.log")
+        wait_until(lambda: "PipeWire" in self.run("pactl", "info", check=False), what="the sound server")
+        self.pactl("load-module", "module-null-sink", "sink_name=speakers")
+        wait_until(lambda: "speakers" in self.pactl("list", "short", "sinks"), what="the speakers")
+        self.pactl("set-default-sink", "speakers")
+        self.set_volume(50)
 
 
 class SoundConsole:

@@ -53,7 +53,8 @@ class Island:
 
     def start(self):
         self.started = time.monotonic()
-        self.process = self.desktop.spawn([str(self.program)], self._stderr)
+        env = self.desktop.env | self.desktop.hardware_env
+        self.process = self.desktop.spawn([str(self.program)], self._stderr, env=env)
         wait_until(self._is_up, timeout=20, what="the island on the bus")
         return self
 
@@ -84,6 +85,10 @@ class Island:
             return hud if hud and abs(hud["level"] - level) < 1e-6 else None
 
         return wait_until(shown, timeout, f"a HUD at {level}")
+
+    def wait_for(self, name, value, timeout=5.0):
+        """Waits until the property `name` is `value`."""
+        wait_until(lambda: self.get(name) == value, timeout, f"{name} to become {value}")
 
     def wait_until_collapsed(self, timeout=6.0):
         wait_until(lambda: not self.hud() and self.get("Presentation") == "collapsed", timeout, "the collapsed island")

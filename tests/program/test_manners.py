@@ -18,8 +18,11 @@ class MannersTest(DesktopTest):
     def focused(self):
         return self.desktop.run("xdotool", "getactivewindow", "getwindowname", check=False)
 
+    def count(self, event):
+        return len(re.findall(rf"^{event}", self.desktop.log("xev.log"), re.M))
+
     def clicks(self):
-        return len(re.findall(r"^ButtonPress", self.desktop.log("xev.log"), re.M))
+        return self.count("ButtonPress")
 
     def click(self, x, y):
         self.desktop.run("xdotool", "mousemove", str(x), str(y), "click", "1")
@@ -49,8 +52,37 @@ class MannersTest(DesktopTest):
         self.assertEqual(self.clicks(), 2, "a click on the pill does not fall through")
 
         self.assertIn("neighbour", self.focused())
-        self.assertEqual(re.findall(r"^FocusOut", self.desktop.log("xev.log"), re.M), [])
+        self.assertEqual(self.count("FocusOut"), 0)
         self.assertNotIn("quillmere", self.desktop.run("xprop", "-root", "_NET_CLIENT_LIST").lower())
+
+    def test_opening_and_closing_take_nothing_from_the_neighbour(self):
+        self.start_neighbour()
+        island = self.start_island()
+        island.wait_out_mute()
+        middle = self.desktop.primary.width // 2
+        beside, inside, below = (middle - 312, 30), (middle - 280, 180), (middle, 232)
+
+        def point(x, y, *more):
+            return ["mousemove", str(x), str(y), *more]
+
+        def reach(*action, clicks):
+            """Does `action`, then presses a key: the key and so many clicks reach the neighbour."""
+            expected = self.clicks() + clicks, self.count("KeyPress") + 1
+            self.desktop.run("xdotool", *action, "key", "a")
+            wait_until(lambda: self.count("KeyPress") == expected[1], 2, "the key")
+            self.assertEqual(self.clicks(), expected[0])
+
+        beats = ["click", "--repeat", "10", "--delay", "40", "1"]
+        reach(*point(*beside, "click", "1"), clicks=1)
+        reach(*point(middle, 16, "click", "1"), *point(*beside, *beats), clicks=10)  # while it opens
+        self.assertEqual(island.get("Presentation"), "expanded")
+        reach(*point(*below, "click", "1"), *point(*beside, "click", "1"), clicks=2)
+        reach(*point(*inside, "click", "1"), *point(*below, *beats), clicks=10)  # while it closes
+        self.assertEqual(island.get("Presentation"), "collapsed")
+        reach(*point(*inside, "click", "1"), clicks=1)
+
+        self.assertEqual(self.count("FocusOut"), 0)
+        self.assertIn("neighbour", self.focused())
 
     def test_scrolling_over_the_pill_changes_the_volume(self):
         self.start_neighbour()
@@ -79,6 +111,10 @@ class MannersTest(DesktopTest):
         self.desktop.set_volume(40)
         wait_until(lambda: is_shown(middle - 130, 6), 3, "the HUD over the film")
         wait_until(lambda: not is_shown(middle - 130, 6) and not is_shown(), 5, "the island to hide again")
+        island.write_defaults({"hideInFullscreen": False})
+        wait_until(is_shown, 5, "the pill over the film")
+        island.write_defaults({"hideInFullscreen": True})
+        wait_until(lambda: not is_shown(), 5, "the pill to hide")
         end_process(film)
         wait_until(is_shown, 5, "the pill")
 

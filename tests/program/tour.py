@@ -8,85 +8,231 @@ import contextlib
 import time
 from pathlib import Path
 
-from desktop import PrivateDesktop
-from island import Island
+from backlight import Backlight
+from desktop import PipeWireDesktop, PrivateDesktop, end_process, wait_until
+from drag import Drag
+from island import Island, is_black
 
 STRIP = 300  # logical units of the screen's top that a screenshot shows
+SETTINGS = {"autoCollapseDelay": 0.7, "showFileTray": True, "idleActivityMostRecent": True}
 
 
-class Tour:
+class Album:
     def __init__(self, out):
         self.out = Path(out)
         self.out.mkdir(parents=True, exist_ok=True)
-        for old in self.out.glob("[0-9][0-9]-*.png"):
+        for old in self.out.glob("[0-9]*-*.png"):
             old.unlink()
         self.count = 0
 
-    def visit(self, desktop, island, look):
-        """All stops on one desktop; `look` names it in the file names."""
-        suffix = f"{look}-{desktop.scale}x"
-
-        def shoot(name, monitor=desktop.primary, height=STRIP):
-            self.save(desktop, monitor, f"{name}-{suffix}", height)
-
-        def settled(name, monitor=desktop.primary):
-            desktop.screen.until_still((monitor.x, monitor.y, monitor.width, 100 * desktop.scale), quiet=0.2)
-            shoot(name, monitor)
-
-        island.wait_out_mute()
-        settled("collapsed")
-
-        with desktop.sound_console() as console:
-            console.set_volume(40)
-            self.growing(desktop, shoot)
-            settled("volume-40")
-            for percent in (20, 75):
-                console.set_volume(percent)
-                island.wait_for_hud(percent / 100)
-                settled(f"volume-{percent}")
-            console.set_volume(100)
-            island.wait_for_hud(1)
-            time.sleep(0.05)
-            shoot("volume-100-bump")
-            settled("volume-100")
-            console.set_volume(0)
-            island.wait_for_hud(0)
-            settled("volume-0")
-            console.set_volume(60)
-            island.wait_for_hud(0.6)
-
-        desktop.set_muted(True)
-        island.wait_for_hud(0)
-        settled("muted")
-        desktop.set_muted(False)
-        island.wait_for_hud(0.6)
-        settled("unmuted")
-        shoot("whole-screen", height=982)
-
-        desktop.plug(desktop.secondary)
-        desktop.make_primary(desktop.secondary)
-        time.sleep(0.5)
-        desktop.set_volume(50)
-        island.wait_for_hud(0.5)
-        settled("second-monitor", desktop.secondary)
-        desktop.unplug(desktop.secondary)
-        island.wait_until_collapsed()
-        settled("first-monitor-again")
-
-    @staticmethod
-    def growing(desktop, shoot):
-        """Catches the island on its way from the pill to the HUD."""
-        monitor, scale = desktop.primary, desktop.scale
-        beside_pill = (monitor.x + monitor.width // 2 - 110 * scale, monitor.y + 10 * scale, 1, 1)
-        desktop.screen.until_changed(beside_pill, desktop.screen.raw(*beside_pill), timeout=3)
-        shoot("growing")
-
-    def save(self, desktop, monitor, name, height):
-        picture = desktop.screen.grab(monitor.x, monitor.y, monitor.width, min(monitor.height, height * desktop.scale))
+    def add(self, picture, name):
         self.count += 1
-        path = self.out / f"{self.count:02}-{name}.png"
+        path = self.out / f"{self.count:03}-{name}.png"
         picture.save(path)
         print(path, flush=True)
+
+
+class Tour:
+    """The stops on one desktop; `look` names it in the file names."""
+
+    def __init__(self, album, desktop, island, look):
+        self.album, self.desktop, self.island = album, desktop, island
+        self.suffix = f"{look}-{desktop.scale}x"
+
+    # -- looking and touching, in logical units -------------------------------------------------
+
+    def shoot(self, name, monitor=None, height=STRIP):
+        monitor, screen = monitor or self.desktop.primary, self.desktop.screen
+        height = min(monitor.height, height * self.desktop.scale)
+        self.album.add(screen.grab(monitor.x, monitor.y, monitor.width, height), f"{name}-{self.suffix}")
+
+    def settled(self, name, monitor=None):
+        area = monitor or self.desktop.primary
+        self.desktop.screen.until_still((area.x, area.y, area.width, 230 * self.desktop.scale), quiet=0.2)
+        self.shoot(name, monitor)
+
+    def point(self, x, y, *more):
+        """`x` from the middle of the screen."""
+        scale = self.desktop.scale
+        x, y = self.desktop.primary.width // 2 + x * scale, y * scale
+        self.desktop.run("xdotool", "mousemove", str(x), str(y), *more)
+
+    def press(self, x, y):
+        self.point(x, y, "click", "1")
+
+    def leave(self):
+        self.point(0, 600)
+        self.island.wait_until_collapsed(timeout=10)
+
+    def open(self):
+        self.press(0, 16)
+        self.island.wait_for("Presentation", "expanded")
+
+    # -- the stops ------------------------------------------------------------------------------
+
+    def levels(self):
+        self.settled("collapsed")
+        with self.desktop.sound_console() as console:
+            console.set_volume(40)
+            self.growing()
+            self.settled("volume-40")
+            for percent in (20, 75):
+                console.set_volume(percent)
+                self.island.wait_for_hud(percent / 100)
+                self.settled(f"volume-{percent}")
+            console.set_volume(100)
+            self.island.wait_for_hud(1)
+            time.sleep(0.05)
+            self.shoot("volume-100-bump")
+            self.settled("volume-100")
+            console.set_volume(0)
+            self.island.wait_for_hud(0)
+            self.settled("volume-0")
+            console.set_volume(60)
+            self.island.wait_for_hud(0.6)
+
+        self.desktop.set_muted(True)
+        self.island.wait_for_hud(0)
+        self.settled("muted")
+        self.desktop.set_muted(False)
+        self.island.wait_for_hud(0.6)
+        self.shoot("whole-screen", height=982)
+
+    def growing(self):
+        """Catches the island on its way from the pill to the HUD."""
+        monitor, scale = self.desktop.primary, self.desktop.scale
+        beside_pill = (monitor.x + monitor.width // 2 - 110 * scale, monitor.y + 10 * scale, 1, 1)
+        screen = self.desktop.screen
+        screen.until_changed(beside_pill, screen.raw(*beside_pill), timeout=3)
+        self.shoot("growing")
+
+    def brightness(self, backlight):
+        for percent in (60, 90):
+            backlight.set(percent)
+            self.island.wait_for_hud(percent / 100)
+            self.settled(f"brightness-{percent}")
+        self.island.wait_until_collapsed()
+        backlight.set(91)
+        time.sleep(0.5)
+        self.shoot("brightness-drift")
+
+    def second_monitor(self):
+        first, second = self.desktop.primary, self.desktop.secondary
+        self.desktop.plug(second)
+        self.desktop.make_primary(second)
+        self.settled("second-monitor", second)
+        self.desktop.set_volume(50)
+        self.island.wait_for_hud(0.5)
+        self.settled("second-monitor-volume", second)
+        self.desktop.unplug(second)
+        self.island.wait_until_collapsed()
+        self.settled("first-monitor-again", first)
+
+    def dashboard(self):
+        self.open()
+        time.sleep(0.08)
+        self.shoot("opening")
+        self.settled("dashboard")
+        self.leave()
+        self.settled("left-and-closed")
+        self.point(0, 16, "click", "--repeat", "2", "--delay", "120", "1")
+        time.sleep(0.1)
+        self.shoot("tapped-twice-closing")
+        self.settled("tapped-twice")
+
+        self.open()
+        self.desktop.set_volume(45)
+        self.island.wait_for_hud(0.45)
+        self.settled("browsing-volume")
+        wait_until(lambda: not self.island.hud(), what="the end of the HUD")
+        self.settled("browsing")
+        self.press(7, 206)
+        time.sleep(0.1)
+        self.shoot("turning-the-page")
+        self.island.wait_for("Page", "fileTray")
+        self.settled("tray-empty")
+        self.press(-7, 206)
+        self.island.wait_for("Page", "main")
+        self.settled("main-again")
+        self.press(240, 40)
+        self.settled("outputs")
+        self.point(0, 90)
+        self.settled("outputs-pointed-at")
+        self.leave_picker()
+
+    def leave_picker(self):
+        self.press(266, 28)  # its close button
+        self.settled("outputs-closed")
+        self.leave()
+
+    def headset(self, name="headset"):
+        device = self.desktop.connect_headset()
+        wait_until(lambda: self.island.hud().get("type") == "bluetooth", 8, "the HUD of the headset")
+        self.settled(name)
+        wait_until(lambda: self.island.get("Presentation") == "collapsed", 8, "the end of the HUD")
+        self.settled(f"{name}-wings")
+        return device
+
+    def activity(self):
+        self.open()
+        self.settled("dashboard-activity")
+        self.leave()
+
+    def drags(self):
+        with Drag(self.desktop) as drag:
+            drag.move_to(self.desktop.primary.width // 2, 10 * self.desktop.scale)
+            self.settled("text-dragged")
+            drag.drop()
+        self.leave()
+        with Drag(self.desktop, "file:///tmp/Letter%20to%20the%20editor.odt") as drag:
+            self.island.wait_for("Page", "fileTray")
+            self.settled("file-dragged")
+            drag.move_to(self.desktop.primary.width // 2 + 90 * self.desktop.scale, 120 * self.desktop.scale)
+            self.settled("file-over-the-island")
+            drag.drop()
+            wait_until(lambda: self.island.hud().get("type") == "fileTray", what="the HUD of the file")
+            self.settled("file-added")
+        self.leave()
+        self.open()
+        self.settled("dashboard-again")
+        self.press(7, 206)
+        self.settled("tray-with-a-file")
+        self.leave()
+
+    def film(self):
+        film = self.desktop.spawn(["xev", "-name", "cinema"], "film.log")
+        middle = self.desktop.primary.width // 2
+        wait_until(lambda: not is_black(self.desktop.screen.pixel(middle, 16)), 5, "the pill to hide")
+        self.settled("film")
+        self.desktop.set_volume(35)
+        self.island.wait_for_hud(0.35)
+        self.settled("film-volume")
+        end_process(film)
+        self.island.wait_until_collapsed()
+        self.settled("film-over")
+
+
+def visit(album, build, look, scale, kind=PrivateDesktop):
+    with contextlib.ExitStack() as stack:
+        desktop = stack.enter_context(kind(scale, look))
+        backlight = Backlight(desktop)
+        island = stack.enter_context(Island(desktop, build, SETTINGS))
+        tour = Tour(album, desktop, island, look)
+        island.wait_out_mute()
+        if kind is PipeWireDesktop:
+            tour.headset("pipewire-headset")
+        else:
+            tour.levels()
+            tour.second_monitor()
+            tour.dashboard()
+            tour.brightness(backlight)
+            if (look, scale) in (("dark", 1), ("light", 2)):
+                tour.headset()
+                tour.activity()
+                tour.drags()
+                tour.film()
+        if faults := island.faults():
+            raise SystemExit("\n".join(faults))
 
 
 def main():
@@ -95,14 +241,10 @@ def main():
     parser.add_argument("--out", required=True)
     options = parser.parse_args()
     build = Path(options.build).resolve()
-    tour = Tour(options.out)
+    album = Album(options.out)
     for look, scale in [("dark", 1), ("dark", 2), ("light", 1), ("light", 2)]:
-        with contextlib.ExitStack() as stack:
-            desktop = stack.enter_context(PrivateDesktop(scale, look))
-            island = stack.enter_context(Island(desktop, build))
-            tour.visit(desktop, island, look)
-            if faults := island.faults():
-                raise SystemExit("\n".join(faults))
+        visit(album, build, look, scale)
+    visit(album, build, "dark", 1, PipeWireDesktop)
 
 
 if __name__ == "__main__":

@@ -51,17 +51,20 @@ void DdcBrightness::read()
             continue; // the library's own talk
         const auto level = toLevel(line);
         if (!level) {
-            qWarning("[Quillmere] %s printed no brightness: \"%s\"",
-                     qUtf8Printable(process_->program()),
-                     line.trimmed().toPercentEncoding(" ").constData());
-            return process_->kill();
+            return giveUp("printed no brightness: \"" + line.trimmed().toPercentEncoding(" ") +
+                          '"');
         }
         setLevel(level);
     }
-    if (process_->bytesAvailable() > longestLine) {
-        qWarning("[Quillmere] %s printed an endless line", qUtf8Printable(process_->program()));
-        process_->kill();
-    }
+    if (process_->bytesAvailable() > longestLine)
+        giveUp("printed an endless line");
+}
+
+void DdcBrightness::giveUp(const QByteArray &reason)
+{
+    qWarning("[Quillmere] %s %s", qUtf8Printable(process_->program()), reason.constData());
+    QObject::disconnect(process_, &QProcess::readyReadStandardOutput, nullptr, nullptr);
+    process_->kill();
 }
 
 void DdcBrightness::setLevel(std::optional<double> level)

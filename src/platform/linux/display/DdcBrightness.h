@@ -31,6 +31,7 @@ public:
 
 private:
     void read();
+    void giveUp(const QByteArray &reason);
     void setLevel(std::optional<double> level);
 
     std::function<void(bool)> onAvailability_;
