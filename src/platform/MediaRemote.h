@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform/Owner.h"
+
+#include <QLatin1StringView>
+#include <QVariantMap>
+
+#include <functional>
+
+namespace quillmere {
+
+/// What plays, and the commands that go to its player. Main thread only.
+///
+/// Tells of changes by posting to the NotificationCenter under the names below, without payload and
+/// as often as the player does: whoever listens decides how often it wants to ask.
+class MediaRemote
+{
+public:
+    enum class Command { TogglePlayPause = 2, NextTrack = 4, PreviousTrack = 5 };
+
+    virtual ~MediaRemote() = default;
+
+    /// False where there is no media service at all: then it cannot be asked and takes no commands.
+    virtual bool isAvailable() const = 0;
+
+    /// Begins to post changes. Once is enough.
+    virtual void registerForNowPlayingNotifications() = 0;
+
+    /// Asks the elected player. `done` gets what it said under the keys below, empty if nothing is
+    /// there to play: once, never from within this call, and only while `owner` lives. Players are
+    /// foreign programs: any key can be missing.
+    virtual void getNowPlayingInfo(const Owner &owner,
+                                   std::function<void(const QVariantMap &info)> done) = 0;
+
+    /// Whether there was a player to send it to; not whether the player obeyed.
+    virtual bool sendCommand(Command command) = 0;
+
+    /// Moves the elected player to `seconds` into its track.
+    virtual void setElapsedTime(double seconds) = 0;
+};
+
+/// The keys of what a player said, and the type of each value.
+namespace mediaInfo {
+inline constexpr QLatin1StringView title("kMRMediaRemoteNowPlayingInfoTitle");       ///< QString
+inline constexpr QLatin1StringView artist("kMRMediaRemoteNowPlayingInfoArtist");     ///< QString
+inline constexpr QLatin1StringView duration("kMRMediaRemoteNowPlayingInfoDuration"); ///< s, double
+inline constexpr QLatin1StringView
+    elapsedTime("kMRMediaRemoteNowPlayingInfoElapsedTime"); ///< s, double, true right now
+inline constexpr QLatin1StringView
+    bundleIdentifier("kMRMediaRemoteNowPlayingInfoApplicationBundleIdentifier"); ///< QString
+inline constexpr QLatin1StringView
+    storeIdentifier("kMRMediaRemoteNowPlayingInfoiTunesStoreIdentifier"); ///< qint64
+inline constexpr QLatin1StringView
+    albumStoreIdentifier("kMRMediaRemoteNowPlayingInfoAlbumiTunesStoreAdamIdentifier"); ///< qint64
+inline constexpr QLatin1StringView
+    playbackRate("kMRMediaRemoteNowPlayingInfoPlaybackRate"); ///< double, 0 = paused
+inline constexpr QLatin1StringView
+    artworkData("kMRMediaRemoteNowPlayingInfoArtworkData"); ///< QByteArray, an encoded picture
+inline constexpr QLatin1StringView
+    artworkImage("kMRMediaRemoteNowPlayingInfoArtworkImage"); ///< QImage, the same for each answer
+} // namespace mediaInfo
+
+/// The names under which changes are posted. The last two are what older players' bridges use.
+namespace mediaEvents {
+inline constexpr QLatin1StringView
+    infoDidChange("kMRMediaRemoteNowPlayingInfoDidChangeNotification");
+inline constexpr QLatin1StringView
+    applicationDidChange("kMRMediaRemoteNowPlayingApplicationDidChangeNotification");
+inline constexpr QLatin1StringView
+    isPlayingDidChange("kMRMediaRemoteNowPlayingApplicationIsPlayingDidChangeNotification");
+inline constexpr QLatin1StringView infoChanged("com.apple.mediaremote.nowplaying.info.changed");
+inline constexpr QLatin1StringView
+    applicationChanged("com.apple.mediaremote.nowplaying.applicationchanged");
+} // namespace mediaEvents
+
+} // namespace quillmere
