@@ -16,7 +16,9 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tests" / "program"))
 
+from backlight import Backlight  # noqa: E402
 from desktop import PrivateDesktop, end_process  # noqa: E402
+from film import Camera  # noqa: E402
 from island import Island, is_black  # noqa: E402
 
 
@@ -44,10 +46,12 @@ class Measurement:
         print(f"{what}: {measured}", file=sys.stderr, flush=True)
 
     @contextlib.contextmanager
-    def running(self, defaults=None):
-        with PrivateDesktop(self.scale, "dark") as desktop, Island(desktop, self.build, defaults) as island:
-            island.wait_out_mute()
-            yield desktop, island
+    def running(self, defaults=None, hardware=lambda desktop: None):
+        with PrivateDesktop(self.scale, "dark") as desktop:
+            hardware(desktop)
+            with Island(desktop, self.build, defaults) as island:
+                island.wait_out_mute()
+                yield desktop, island
 
     def area(self, desktop, left, top, width, height):
         """An area given in logical units from the middle of the main monitor's top edge."""
@@ -102,6 +106,51 @@ class Measurement:
                         last, seen = now, moment
             self.row("frame intervals while growing", spread(intervals))
 
+    def opening(self, cycles=10):
+        """Intervals between different pictures while the dashboard opens and closes, and what it costs."""
+        with self.running({"autoCollapseDelay": 60, "islandAppearance": "classic"}) as (desktop, island):
+            camera, intervals = Camera(desktop), []
+            for number in range(2 * cycles):
+                frames = camera.film(island.toggle())
+                if number < 2:
+                    continue  # they load the pages
+                for before, after in zip(frames[1:], frames[2:]):
+                    # Towards its rest the island moves by less than a shade of a pixel in a frame.
+                    if abs(frames[-1].bottom - after.bottom) > 4 * self.scale:
+                        intervals.append(milliseconds(after.at - before.at))
+            self.row("frame intervals while the dashboard opens or closes", spread(intervals))
+        with self.running({"autoCollapseDelay": 60}) as (_, island):
+            self.once(island)
+            self.once(island)
+            cpu, begun = island.cpu_seconds(), time.monotonic()
+            for _ in range(2 * cycles):
+                self.once(island)
+            spent, passed = island.cpu_seconds() - cpu, time.monotonic() - begun
+            self.row(
+                f"CPU, dashboard opened or closed every {passed / cycles / 2:.1f} s",
+                f"{100 * spent / passed:.1f} % of a core, {milliseconds(spent / cycles / 2):.0f} ms each time",
+            )
+
+    @staticmethod
+    def once(island):
+        island.toggle().wait(5)
+        time.sleep(0.8)
+
+    def cycles(self, count=200):
+        """Memory of opening and closing the dashboard again and again."""
+        with self.running({"autoCollapseDelay": 60}) as (_, island):
+            done, before = 0, island.memory()["Private_Dirty"]
+            self.row("memory written, dashboard never opened", f"{before} KiB")
+            for target in (1, 2, 20, count):
+                while done < target:
+                    done += 1
+                    self.once(island)
+                    self.once(island)
+                time.sleep(2)
+                now = island.memory()["Private_Dirty"]
+                self.row(f"memory written after {done} openings", f"{now} KiB ({now - before:+} since the row above)")
+                before = now
+
     # -- start ----------------------------------------------------------------------------------
 
     def start(self, rounds=12):
@@ -126,14 +175,18 @@ class Measurement:
     # -- idle -----------------------------------------------------------------------------------
 
     def idle(self, seconds):
-        with self.running() as (_, island):
+        self.rest(seconds, "without a brightness")
+        self.rest(seconds, "with a backlight", Backlight)
+
+    def rest(self, seconds, what, hardware=lambda desktop: None):
+        with self.running(hardware=hardware) as (_, island):
             time.sleep(5)
-            self.row("memory, collapsed, before the first HUD", self.memory(island))
+            self.row(f"memory, collapsed, before the first HUD, {what}", self.memory(island))
             begun = time.monotonic()
             (voluntary, involuntary, busy), ended = self.activity(island, seconds)
             passed = time.monotonic() - begun
             self.row(
-                f"idle, collapsed, {passed:.0f} s",
+                f"idle, collapsed, {passed:.0f} s, {what}",
                 f"{voluntary / passed:.2f} voluntary and {involuntary / passed:.2f} involuntary switches a second, "
                 f"{busy / passed / 1e7:.4f} % of a core; {ended} threads ended meanwhile",
             )
@@ -240,19 +293,27 @@ def main():
     parser.add_argument("--minute", type=float, default=60, metavar="SECONDS", help="length of the idle measurement")
     parser.add_argument("--rounds", type=int, default=100, help="volume changes timed")
     parser.add_argument("--huds", type=int, default=2000)
+    parser.add_argument("--only", help="one measurement by name, such as opening")
     options = parser.parse_args()
 
     print(f"Machine: {machine()}\n")
     measurement = Measurement(options.build, options.scale)
     with PrivateDesktop(options.scale) as desktop:
         measurement.row("asking for a pixel row (resolution)", f"{grab_cost(desktop):.2f} ms")
-    measurement.start()
-    measurement.latency(options.rounds)
-    measurement.frames()
-    measurement.animating()
-    measurement.idle(options.minute)
-    measurement.growth(options.huds)
-    measurement.storm()
+    measurements = {
+        "start": measurement.start,
+        "latency": lambda: measurement.latency(options.rounds),
+        "frames": measurement.frames,
+        "opening": measurement.opening,
+        "animating": measurement.animating,
+        "idle": lambda: measurement.idle(options.minute),
+        "growth": lambda: measurement.growth(options.huds),
+        "storm": measurement.storm,
+        "cycles": measurement.cycles,
+    }
+    for name, measure in measurements.items():
+        if options.only in (None, name):
+            measure()
 
     print(f"| what, at {options.scale}x | measured |\n|---|---|")
     for what, measured in measurement.rows:

@@ -13,6 +13,7 @@
 #include <QCommandLineParser>
 #include <QDesktopServices>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QSessionManager>
 
 #include <cstdio>
@@ -146,6 +147,8 @@ int main(int argc, char **argv)
     QGuiApplication::setApplicationVersion(QStringLiteral(QUILLMERE_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quillmere.Quillmere"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    // Of itself it follows the translation in use only: dates and names are the user's in any case.
+    QGuiApplication::setLayoutDirection(QLocale().textDirection());
 
     QtRunLoop runLoop;
     DBusService bus(runLoop);

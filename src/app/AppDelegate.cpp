@@ -77,8 +77,9 @@ void AppDelegate::createUpdater()
     const auto show = [this](HUDContent hud) {
         hudManager_.show(std::move(hud), false, updateHUDDuration);
     };
-    updaterController_->onUpdateFound = [show](const Update &update) {
-        show(updateFoundHUD(update));
+    updaterController_->onUpdateFound = [this, show](const Update &update, bool wasAsked) {
+        if (wasAsked || !hudsAreSuppressed()) // else the next daily check finds it again
+            show(updateFoundHUD(update));
     };
     updaterController_->onUpToDate = [show] { show(upToDateHUD()); };
     updaterController_->onFailure = [show](const QString &text) { show(updateFailedHUD(text)); };

@@ -63,7 +63,7 @@ public:
     /// Asks the program to quit; the answer is applicationWillTerminate().
     void terminate();
 
-    /// Null before launch and after termination.
+    /// Null before launch.
     FloatingPanel *floatingPanel() const { return floatingPanel_.get(); }
     ContentView *contentView() const { return contentView_.get(); }
 

@@ -6,7 +6,17 @@
 #include "platform/BluetoothBatteries.h"
 #include "settings/SettingsStore.h"
 
+#include <QCoreApplication>
+
 namespace quillmere {
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(DeviceHUD)
+};
+
+} // namespace
 
 DeviceHUD::DeviceHUD(SettingsStore &settings, HUDManager &hudManager,
                      const AudioHardware &audioHardware, BluetoothBatteries &batteries)
@@ -15,6 +25,10 @@ DeviceHUD::DeviceHUD(SettingsStore &settings, HUDManager &hudManager,
     , audioHardware_(audioHardware)
     , batteries_(batteries)
 {
+    QObject::connect(&hudManager_, &HUDManager::currentHUDChanged, &context_, [this] {
+        if (!isShown())
+            chargeListener_.cancel();
+    });
 }
 
 void DeviceHUD::show(const QString &name, bool isAirPods)
@@ -23,28 +37,32 @@ void DeviceHUD::show(const QString &name, bool isAirPods)
     const auto formFactor = device ? device->formFactor : AudioFormFactor::Headphones;
     const QString address = device ? device->bluetoothAddress : QString();
     HUDContent hud{.title = name,
-                   .subtitle = QStringLiteral("Connected"),
+                   .subtitle = Words::tr("Connected"),
                    .icon = QString(outputSymbol(formFactor, isAirPods)),
                    .type = HUDContent::HUDType::Bluetooth};
-    chargeListener_ = batteries_.onChanged([this, address, hud] { updateCharge(address, hud); });
+    shownName_ = name;
+    auto listener = batteries_.onChanged([this, address, hud] { updateCharge(address, hud); });
     if (const auto percent = batteries_.percent(address))
         hud.level = *percent / 100.0;
     hudManager_.show(hud, true, settings_.bluetoothHUDDuration.get());
+    if (isShown())
+        chargeListener_ = std::move(listener);
+}
+
+bool DeviceHUD::isShown() const
+{
+    const auto &current = hudManager_.currentHUD();
+    return current && current->type == HUDContent::HUDType::Bluetooth &&
+           current->title == shownName_;
 }
 
 void DeviceHUD::updateCharge(const QString &address, HUDContent shown)
 {
-    const auto &current = hudManager_.currentHUD();
-    const bool stillShown = current && current->type == shown.type && current->title == shown.title;
-    if (!stillShown) {
-        chargeListener_.cancel();
-        return;
-    }
     const auto percent = batteries_.percent(address);
     if (!percent)
         return;
     shown.level = *percent / 100.0;
-    if (shown != *current)
+    if (shown != hudManager_.currentHUD())
         hudManager_.show(std::move(shown), true, settings_.bluetoothHUDDuration.get());
 }
 

@@ -3,6 +3,7 @@
 #include "island/HUDContent.h"
 #include "platform/Task.h"
 
+#include <QObject>
 #include <QString>
 
 namespace quillmere {
@@ -23,13 +24,16 @@ public:
     void show(const QString &name, bool isAirPods);
 
 private:
+    bool isShown() const;
     void updateCharge(const QString &address, HUDContent shown);
 
     SettingsStore &settings_;
     HUDManager &hudManager_;
     const AudioHardware &audioHardware_;
     BluetoothBatteries &batteries_;
-    Task chargeListener_; ///< while a device that has yet to tell its charge is announced
+    QString shownName_;
+    Task chargeListener_; ///< while a device is announced
+    QObject context_;
 };
 
 } // namespace quillmere

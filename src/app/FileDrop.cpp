@@ -3,9 +3,15 @@
 #include "app/AppEvents.h"
 #include "platform/Symbols.h"
 
+#include <QCoreApplication>
+
 namespace quillmere {
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(FileDrop)
+};
 
 /// A folder's path may end with a slash.
 QString fileName(const QUrl &file)
@@ -29,14 +35,14 @@ QList<QUrl> droppedFiles(const QVariantMap &userInfo)
 
 HUDContent fileAddedHUD(const QList<QUrl> &files)
 {
-    HUDContent hud{.title = QStringLiteral("File Added"),
+    HUDContent hud{.title = Words::tr("File Added"),
                    .icon = symbols::trayAndArrowDown,
                    .type = HUDContent::HUDType::FileTray};
     if (files.isEmpty())
         return hud;
-    hud.subtitle = fileName(files.first());
-    if (files.size() > 1)
-        *hud.subtitle += QStringLiteral(" and %1 more").arg(files.size() - 1);
+    const QString first = fileName(files.first());
+    const auto others = static_cast<int>(files.size()) - 1;
+    hud.subtitle = others > 0 ? Words::tr("%1 and %n more", nullptr, others).arg(first) : first;
     return hud;
 }
 

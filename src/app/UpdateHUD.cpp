@@ -2,9 +2,15 @@
 
 #include "platform/Symbols.h"
 
+#include <QCoreApplication>
+
 namespace quillmere {
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(UpdateHUD)
+};
 
 HUDContent updateHUD(const QString &title, const QString &subtitle)
 {
@@ -18,21 +24,20 @@ HUDContent updateHUD(const QString &title, const QString &subtitle)
 
 HUDContent updateFoundHUD(const Update &update)
 {
-    HUDContent hud = updateHUD(QStringLiteral("Quillmere %1 is available").arg(update.version),
-                               QStringLiteral("Press to see what is new"));
+    HUDContent hud = updateHUD(Words::tr("Quillmere %1 is available").arg(update.version),
+                               Words::tr("Press to see what is new"));
     hud.contentURL = update.link.toString(QUrl::FullyEncoded);
     return hud;
 }
 
 HUDContent upToDateHUD()
 {
-    return updateHUD(QStringLiteral("Quillmere is up to date"),
-                     QStringLiteral("There is no newer version"));
+    return updateHUD(Words::tr("Quillmere is up to date"), Words::tr("There is no newer version"));
 }
 
 HUDContent updateFailedHUD(const QString &reason)
 {
-    return updateHUD(QStringLiteral("Could not look for updates"), reason);
+    return updateHUD(Words::tr("Could not look for updates"), reason);
 }
 
 } // namespace quillmere

@@ -115,7 +115,7 @@ void Updater::answered(const HttpResult &result)
     const bool isAsked = std::exchange(isAsked_, false);
     if (const auto update = newestAbove(version_, *updates)) {
         if (onUpdateFound)
-            onUpdateFound(*update);
+            onUpdateFound(*update, isAsked);
     } else if (isAsked && onUpToDate) {
         onUpToDate();
     }

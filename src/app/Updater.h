@@ -28,7 +28,7 @@ public:
     /// Checks now and tells the outcome in any case.
     void checkForUpdates();
 
-    std::function<void(const Update &update)> onUpdateFound;
+    std::function<void(const Update &update, bool wasAsked)> onUpdateFound;
     std::function<void()> onUpToDate;                   ///< only when asked
     std::function<void(const QString &text)> onFailure; ///< only when asked
 

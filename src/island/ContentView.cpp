@@ -24,11 +24,6 @@ constexpr Duration hoverOutGrace = std::chrono::milliseconds(350);
 /// A collapse that is held up looks again after this at the soonest, whatever the setting says.
 constexpr Duration shortestRearm = hoverOutGrace;
 
-bool isLevel(HUDContent::HUDType type)
-{
-    return type == HUDContent::HUDType::Volume || type == HUDContent::HUDType::Brightness;
-}
-
 QLatin1StringView truth(bool value)
 {
     return value ? QLatin1StringView("true") : QLatin1StringView("false");
@@ -96,6 +91,10 @@ void ContentView::observe(NotificationCenter &notificationCenter)
     on(events::dragExited, &ContentView::dragExited);
 
     connect(&hudManager_, &HUDManager::hudPresented, this, &ContentView::hudPresented);
+    connect(&hudManager_, &HUDManager::currentHUDChanged, this, [this] {
+        if (!hudManager_.currentHUD())
+            lastHUD_.reset();
+    });
     connect(&panel_, &FloatingPanel::collapsedSizeChanged, this, &ContentView::updateSize);
     const auto wingsChanged = [this] {
         updateSize();
@@ -209,7 +208,8 @@ void ContentView::hudPresented()
         setState(true, false);
         Q_EMIT shownHUDChanged();
     }
-    scheduleCollapse(seconds(hudManager_.currentHUDDuration()));
+    if (presentation() == Presentation::HUD)
+        scheduleCollapse(seconds(hudManager_.currentHUDDuration()));
 }
 
 void ContentView::pickerShown()
@@ -262,26 +262,17 @@ void ContentView::dismissHUD()
 {
     if (!shownHUD_)
         return;
-    const auto type = shownHUD_->type;
+    const HUDContent hud = *shownHUD_;
     cancelCollapse();
     collapse();
     hudManager_.dismissCurrentHUD();
-    removeActivity(type);
+    hudManager_.removeActivity(static_cast<int>(hudManager_.hudQueue().indexOf(hud)));
 }
 
 void ContentView::dismissIdleActivity()
 {
-    if (const auto activity = idleActivity())
-        removeActivity(activity->type);
-}
-
-void ContentView::removeActivity(HUDContent::HUDType type)
-{
-    const auto &queue = hudManager_.hudQueue();
-    const auto found = std::find_if(queue.begin(), queue.end(),
-                                    [&](const HUDContent &entry) { return entry.type == type; });
-    if (found != queue.end())
-        hudManager_.removeActivity(static_cast<int>(found - queue.begin()));
+    if (idleActivity())
+        hudManager_.removeActivity(hudManager_.currentQueueIndex());
 }
 
 void ContentView::scheduleCollapse(Duration delay)

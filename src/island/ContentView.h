@@ -99,7 +99,6 @@ private:
 
     void setState(bool isExpanded, bool userExpanded);
     void updateSize();
-    void removeActivity(HUDContent::HUDType type);
     void playHaptic();
     void logCollapse(const QString &message);
 

@@ -10,7 +10,7 @@ namespace quillmere {
 
 /// One heads-up display, and also the form in which the playing track is published.
 struct HUDContent {
-    /// The kinds of HUD. The order counts: the first two never become activities.
+    /// The kinds of HUD.
     enum class HUDType {
         Volume,
         Brightness,
@@ -43,6 +43,12 @@ struct HUDContent {
 
 /// "volume", "brightness", ... "fileTray".
 QLatin1StringView hudTypeName(HUDContent::HUDType type);
+
+/// A level that the user is changing; these two never become activities.
+inline bool isLevel(HUDContent::HUDType type)
+{
+    return type == HUDContent::HUDType::Volume || type == HUDContent::HUDType::Brightness;
+}
 
 /// The speaker symbol for a volume of 0..100 percent.
 QLatin1StringView volumeSymbol(double percent);

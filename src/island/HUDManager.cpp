@@ -81,8 +81,8 @@ void HUDManager::showBrightness(double percent, double durationSeconds)
 void HUDManager::showLowBattery(int percent, double durationSeconds)
 {
     HUDContent content;
-    content.title = QStringLiteral("Low Battery");
-    content.subtitle = QString::number(percent) + u"% remaining";
+    content.title = tr("Low Battery");
+    content.subtitle = tr("%1% remaining").arg(percent);
     content.icon = symbols::battery25;
     content.level = std::clamp(percent, 0, 100) / 100.0;
     content.type = HUDType::Battery;
@@ -194,8 +194,7 @@ void HUDManager::presentLevel(HUDType type, double percent, double durationSecon
 
 bool HUDManager::fileActivity(const HUDContent &content)
 {
-    if (content.type == HUDType::Volume || content.type == HUDType::Brightness ||
-        !settings_.swipeToCycleActivity.get())
+    if (isLevel(content.type) || !settings_.swipeToCycleActivity.get())
         return false;
     const auto sameType = [&](const HUDContent &entry) { return entry.type == content.type; };
     const auto found = std::find_if(hudQueue_.begin(), hudQueue_.end(), sameType);

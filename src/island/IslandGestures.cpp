@@ -61,7 +61,10 @@ void IslandGestures::stepActivity(int step)
 bool IslandGestures::takesScroll(const ScrollEvent &event)
 {
     const bool vertical = std::abs(event.deltaY) > std::abs(event.deltaX);
-    if (!event.precise || !vertical || !swipesAnything())
+    if (!event.precise || !vertical)
+        return false;
+    // What dismissed the last thing there was to swipe has an end that belongs to it.
+    if (!swipesAnything() && !vertical_.isGoingOn(runLoop_.now()))
         return false;
     const int swipe = vertical_.feed(event, runLoop_.now());
     const int up = settings_.naturalMovement.get() ? -1 : 1;

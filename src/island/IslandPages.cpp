@@ -24,9 +24,9 @@ void IslandPages::offer(const QList<IslandPage> &pages)
     if (pages == offered_)
         return;
     offered_ = pages;
-    Q_EMIT offeredChanged();
     if (!offered_.contains(islandPage_))
         show(IslandPage::Main);
+    Q_EMIT offeredChanged();
 }
 
 void IslandPages::show(IslandPage page)

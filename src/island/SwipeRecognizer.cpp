@@ -10,7 +10,7 @@ int SwipeRecognizer::feed(const ScrollEvent &event, Instant now)
     if (!vertical || !std::isfinite(event.deltaY))
         return 0;
     const bool turnedRound = std::signbit(event.deltaY) != std::signbit(way_);
-    if (!last_ || now - *last_ >= GestureGate::silence || turnedRound) {
+    if (!isGoingOn(now) || turnedRound) {
         way_ = 0;
         recognized_ = false;
     }

@@ -41,6 +41,9 @@ public:
     /// -1 towards the user, 1 away from the user, 0 no swipe (yet, or any more).
     int feed(const ScrollEvent &event, Instant now);
 
+    /// Whether an event now would still belong to the gesture that was fed last.
+    bool isGoingOn(Instant now) const { return last_ && now - *last_ < GestureGate::silence; }
+
 private:
     std::optional<Instant> last_;
     double way_ = 0;

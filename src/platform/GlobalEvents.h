@@ -29,10 +29,10 @@ public:
     virtual Task onLeftMouseDown(Listener listener) = 0;
 
     /// Calls back while the pointer moves with the button held, some 20 times a second at most.
-    virtual Task onLeftMouseDragged(Listener) { return {}; }
+    virtual Task onLeftMouseDragged(Listener listener) = 0;
 
     /// Calls back on the release, wherever that is.
-    virtual Task onLeftMouseUp(Listener) { return {}; }
+    virtual Task onLeftMouseUp(Listener listener) = 0;
 };
 
 } // namespace quillmere

@@ -153,6 +153,7 @@ FocusScope {
             }
 
             sourceComponent: LevelHUD {
+                objectName: "dashboardHUD"
                 face: dashboard.model.level
                 overshoot: dashboard.model.overshoot
                 onScreen: dashboard.live

@@ -18,11 +18,6 @@ namespace {
 
 constexpr qsizetype longestName = 120;
 
-bool isLevel(const HUDContent &hud)
-{
-    return hud.type == HUDContent::HUDType::Volume || hud.type == HUDContent::HUDType::Brightness;
-}
-
 QString title(IslandPage page)
 {
     switch (page) {
@@ -153,10 +148,11 @@ QString DashboardModel::date() const
 void DashboardModel::updateLevel()
 {
     const auto &hud = hudManager_.currentHUD();
-    showsLevel_ = hud && isLevel(*hud) && isOpen();
-    if (showsLevel_)
+    const bool shows = hud && isLevel(hud->type) && isOpen();
+    if (shows)
         level_.setFace(hudFace(*hud, hudLook(settings_), desktopAccent(appearance_)));
-    Q_EMIT levelChanged();
+    if (std::exchange(showsLevel_, shows) != shows)
+        Q_EMIT levelChanged();
 }
 
 bool DashboardModel::overshoot() const

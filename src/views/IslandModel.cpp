@@ -33,10 +33,7 @@ QUrl linkOf(const std::optional<HUDContent> &hud)
 /// over a message.
 bool continues(const HUDContent &shown, const HUDContent &next)
 {
-    using enum HUDContent::HUDType;
-    if (shown.type != next.type)
-        return false;
-    return next.type == Volume || next.type == Brightness || shown.title == next.title;
+    return shown.type == next.type && (isLevel(next.type) || shown.title == next.title);
 }
 
 } // namespace

@@ -13,8 +13,13 @@ Item {
     LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
-    // A window that is gone tells nobody that the pointer is.
-    onLiveChanged: if (!live) island.hover(false)
+    // A window that is gone tells nobody that the pointer, or what it drags, is.
+    onLiveChanged: {
+        if (live)
+            return;
+        island.hover(false);
+        island.dragOver(false);
+    }
 
     // The canvas comes up empty and the island fades in on it, every time it is shown.
     Follower on opacity {

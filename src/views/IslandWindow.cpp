@@ -58,16 +58,22 @@ void IslandWindow::clearIsland()
 {
     scene_.reset();
     island_ = nullptr;
+    dashboard_ = nullptr;
 }
 
 void IslandWindow::setIsland(IslandModel &island, DashboardModel &dashboard)
 {
     clearIsland();
     island_ = &island;
+    dashboard_ = &dashboard;
     scene_ = makeScene(*engine_, island, dashboard);
     scene_->setParentItem(contentItem());
     fitScene();
-    connect(island_, &IslandModel::shownFaceChanged, this, &IslandWindow::announce);
+    connect(island_, &IslandModel::shownFaceChanged, this, &IslandWindow::announceHUD);
+    connect(dashboard_, &DashboardModel::levelChanged, this, [this] {
+        if (dashboard_ && dashboard_->showsLevel())
+            announce(QStringLiteral("dashboardHUD"));
+    });
 }
 
 void IslandWindow::fitScene()
@@ -76,13 +82,18 @@ void IslandWindow::fitScene()
         scene_->setSize(size());
 }
 
-void IslandWindow::announce()
+void IslandWindow::announceHUD()
 {
-    if (!scene_ || !QAccessible::isActive() || island_->shownFace() < 0)
+    if (island_ && island_->shownFace() >= 0)
+        announce(island_->shownFace() == 0 ? QStringLiteral("firstHUD")
+                                           : QStringLiteral("secondHUD"));
+}
+
+void IslandWindow::announce(const QString &objectName)
+{
+    if (!scene_ || !QAccessible::isActive())
         return;
-    const QString name =
-        island_->shownFace() == 0 ? QStringLiteral("firstHUD") : QStringLiteral("secondHUD");
-    if (auto *hud = scene_->findChild<QQuickItem *>(name)) {
+    if (auto *hud = scene_->findChild<QQuickItem *>(objectName)) {
         QAccessibleEvent alert(hud, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);
     }

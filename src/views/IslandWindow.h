@@ -30,9 +30,11 @@ public:
 
 private:
     void fitScene();
-    void announce();
+    void announceHUD();
+    void announce(const QString &objectName);
 
     IslandModel *island_ = nullptr;
+    DashboardModel *dashboard_ = nullptr;
     std::unique_ptr<QQmlEngine> engine_;
     std::unique_ptr<QQuickItem> scene_;
 };

@@ -16,6 +16,7 @@ Item {
         anchors.topMargin: page.busy ? 18 : 44
 
         FigureText {
+            anchors.left: parent.left
             text: page.model.time
             font: Type.display
             color: Ink.content
@@ -23,6 +24,7 @@ Item {
             Accessible.name: text
         }
         Text {
+            anchors.left: parent.left
             text: page.model.date
             textFormat: Text.PlainText
             font: Type.text

@@ -46,6 +46,13 @@ Item {
         color: Ink.secondary
     }
 
+    // Scrolled to its end, a list has no more use for the gesture; the island is not to close of it.
+    MouseArea {
+        anchors.fill: list
+        acceptedButtons: Qt.NoButton
+        onWheel: (wheel) => wheel.accepted = list.contentHeight > list.height
+    }
+
     ListView {
         id: list
 

@@ -40,6 +40,13 @@ Item {
         }
     }
 
+    // Scrolled to its end, a list has no more use for the gesture; the island is not to close of it.
+    MouseArea {
+        anchors.fill: list
+        acceptedButtons: Qt.NoButton
+        onWheel: (wheel) => wheel.accepted = list.contentHeight > list.height
+    }
+
     ListView {
         id: list
 
@@ -68,6 +75,7 @@ Item {
             Accessible.name: modelData.name
             Accessible.onPressAction: page.model.openFile(modelData.url)
             Keys.onReturnPressed: page.model.openFile(modelData.url)
+            Keys.onSpacePressed: page.model.openFile(modelData.url)
 
             Rectangle {
                 anchors.fill: parent

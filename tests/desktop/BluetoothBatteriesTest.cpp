@@ -223,6 +223,14 @@ TEST_F(BluetoothBatteriesTest, UPowerFillsInForWhatBlueZDoesNotTell)
                 {root.mid(1).replace(u'/', u'.'), QStringLiteral("DeviceRemoved"),
                  QStringLiteral("o"), QVariantList{QVariant::fromValue(QDBusObjectPath(battery))}});
     EXPECT_TRUE(waitFor(std::nullopt));
+
+    task.cancel();
+    uPower.call(root, mock, "AddMethod",
+                {root.mid(1).replace(u'/', u'.'), QStringLiteral("EnumerateDevices"), QString(),
+                 QStringLiteral("ai"), QStringLiteral("ret = [1, 2, 3]")});
+    task = batteries.onChanged([this] { ++changes; });
+    startBlueZ(82);
+    EXPECT_TRUE(waitFor(82)); // nonsense beside it does no harm
 }
 
 } // namespace

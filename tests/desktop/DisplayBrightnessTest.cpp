@@ -24,7 +24,7 @@ namespace {
 class DisplayBrightnessTest : public RealFiles
 {
 protected:
-    ~DisplayBrightnessTest() override
+    void TearDown() override
     {
         siginfo_t child;
         EXPECT_TRUE(eventually([&child] {

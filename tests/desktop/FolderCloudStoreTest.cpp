@@ -12,7 +12,6 @@
 using namespace quillmere;
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {

@@ -3,8 +3,6 @@
 import time
 from typing import NamedTuple
 
-from desktop import wait_until
-
 _ROW = 15.5  # logical units below the top edge: there even the pill is as wide as it gets
 _BLACK = 8
 
@@ -62,11 +60,6 @@ class Camera:
         return Frame(at, self._half - first, end - self._half, _black(column)[1])
 
 
-def toggle(desktop, build):
-    """Opens or closes the dashboard, without waiting for it."""
-    return desktop.spawn([str(build / "bin" / "quillmerectl"), "action", "toggle-island"], "ctl.log")
-
-
 def reversals(values, tolerance=1):
     """How often a course turns by more than `tolerance`: a spring that swings over once turns once."""
     turns, direction, extreme = 0, 0, values[0]
@@ -77,9 +70,3 @@ def reversals(values, tolerance=1):
         elif abs(step) > tolerance:
             turns, direction, extreme = turns + 1, -direction, value
     return turns
-
-
-def ready(island):
-    """The launch mute is over and the pill is all there is."""
-    island.wait_out_mute()
-    wait_until(lambda: island.get("Presentation") == "collapsed", what="the pill")

@@ -71,6 +71,10 @@ class Island:
     def ctl(self, *arguments, check=True):
         return self.desktop.run(str(self._ctl), *arguments, check=check)
 
+    def toggle(self):
+        """Opens or closes the dashboard, without waiting for it."""
+        return self.desktop.spawn([str(self._ctl), "action", "toggle-island"], "ctl.log")
+
     def get(self, name):
         return json.loads(self.ctl("get", name))
 

@@ -174,6 +174,14 @@ TEST_F(ContentViewTest, HUDExpandsForItsOwnDuration)
     EXPECT_EQ(shown(), "collapsed");
     message(5);
     EXPECT_EQ(shown(), "hud");
+
+    runLoop.advance(5s);
+    tap();
+    decisions();
+    runLoop.advance(3s);
+    message(5); // the same, but new: the former is over
+    EXPECT_EQ(shown(), "hud");
+    EXPECT_THAT(decisions(), ElementsAre("COLLAPSE EXPAND_TEMP"));
 }
 
 TEST_F(ContentViewTest, LevelsAreShownInsideAnOpenDashboardAndMessagesReplaceIt)
@@ -300,10 +308,20 @@ TEST_F(ContentViewTest, ActivitiesLiveInTheWingsAndCanBeCycledAndDismissed)
     EXPECT_FALSE(hud.currentHUD());
     EXPECT_EQ(hud.hudQueue().size(), 1);
     runLoop.advance(1s);
-    settings.swipeToDismissActivity.set(false);
+
     settings.swipeToToggleOpen.set(false);
     int volumeSteps = 0;
     panel.onCollapsedScroll = [&](double steps) { volumeSteps += static_cast<int>(steps); };
+    HUDContent other = hud.hudQueue().first();
+    other.title = QStringLiteral("Not kept");
+    hud.show(other, false, 5);
+    swipe(0, 40);
+    EXPECT_EQ(shown(), "collapsed");
+    EXPECT_EQ(hud.hudQueue().size(), 1); // what another HUD of the kind left behind stays
+    settings.swipeToDismissActivity.set(false);
+    swipe(0, 40); // the end of that gesture
+    EXPECT_EQ(volumeSteps, 0);
+    runLoop.advance(1s);
     swipe(0, 40);
     EXPECT_EQ(volumeSteps, 4); // nothing to swipe: the scroll is the volume's
     EXPECT_EQ(hud.hudQueue().size(), 1);

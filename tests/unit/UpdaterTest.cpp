@@ -123,7 +123,9 @@ protected:
         auto updater =
             std::make_unique<Updater>(runLoop_, http_, userDefaults_, localDefaults_,
                                       Endpoint{QUrl(address), false}, QStringLiteral("1.0"));
-        updater->onUpdateFound = [this](const Update &update) { told_.append(update.version); };
+        updater->onUpdateFound = [this](const Update &update, bool) {
+            told_.append(update.version);
+        };
         updater->onUpToDate = [this] { told_.append(QStringLiteral("up to date")); };
         updater->onFailure = [this](const QString &) { told_.append(QStringLiteral("failure")); };
         updater->startUpdater();

@@ -13,7 +13,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr Duration fileSettleTime = 100ms;
-constexpr qint64 largestKdeGlobals = 1024 * 1024;
+constexpr qint64 largestKdeGlobals = 1'048'576;
 
 const QString common = QStringLiteral("org.freedesktop.appearance");
 const QString gnome = QStringLiteral("org.gnome.desktop.interface");

@@ -36,6 +36,11 @@ std::string_view property(const pa_sink_info &info, const char *key)
     return value ? value : "";
 }
 
+const char *nameOf(const pa_sink_info &info)
+{
+    return info.name ? info.name : "";
+}
+
 AudioFormFactor readFormFactor(const pa_sink_info &info)
 {
     const auto found = std::ranges::find(
@@ -48,13 +53,15 @@ bool isBluetooth(const pa_sink_info &info)
     if (property(info, PA_PROP_DEVICE_BUS) == "bluetooth")
         return true;
     const auto api = property(info, PA_PROP_DEVICE_API);
-    return api == "bluez" || api == "bluez5" || std::string_view(info.name).starts_with("bluez_");
+    return api == "bluez" || api == "bluez5" ||
+           std::string_view(nameOf(info)).starts_with("bluez_");
 }
 
 QString readAddress(const pa_sink_info &info)
 {
-    for (const auto text : {property(info, "api.bluez5.address"),
-                            property(info, PA_PROP_DEVICE_STRING), std::string_view(info.name)}) {
+    for (const auto text :
+         {property(info, "api.bluez5.address"), property(info, PA_PROP_DEVICE_STRING),
+          std::string_view(nameOf(info))}) {
         QString address =
             bluetoothAddressIn(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
         if (!address.isEmpty())
@@ -77,7 +84,7 @@ AudioDevice readDevice(const pa_sink_info &info)
 
 PulseSink readSink(const pa_sink_info &info)
 {
-    return {info.index, info.name, readDevice(info), info.volume, info.mute != 0};
+    return {info.index, nameOf(info), readDevice(info), info.volume, info.mute != 0};
 }
 
 } // namespace quillmere

@@ -20,16 +20,6 @@ constexpr Duration answerLimit = 5s;
 constexpr QLatin1StringView managerInterface{"org.freedesktop.DBus.ObjectManager"};
 constexpr QLatin1StringView batteryInterface{"org.bluez.Battery1"};
 
-/// A value of another shape than expected reads as an empty one.
-template <class Value>
-Value unpack(const QVariant &argument, QLatin1StringView signature)
-{
-    if (!argument.canConvert<QDBusArgument>())
-        return {};
-    const auto packed = argument.value<QDBusArgument>();
-    return packed.currentSignature() == signature ? qdbus_cast<Value>(packed) : Value();
-}
-
 } // namespace
 
 BlueZBatteries::BlueZBatteries(const QDBusConnection &bus, const QString &owner,

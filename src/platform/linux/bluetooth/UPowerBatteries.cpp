@@ -78,7 +78,7 @@ void UPowerBatteries::readAll()
                      qUtf8Printable(reply.error().message()));
             return;
         }
-        const auto paths = qdbus_cast<QList<QDBusObjectPath>>(reply->value(0));
+        const auto paths = unpack<QList<QDBusObjectPath>>(reply->value(0), QLatin1StringView("ao"));
         for (const QDBusObjectPath &path : paths)
             read(path.path());
     });
@@ -91,7 +91,7 @@ void UPowerBatteries::read(const QString &path)
     question << QString(deviceInterface);
     calls_.call(question, answerLimit, [this, path](const BusReply &reply) {
         if (reply) // else the device is gone again
-            take(path, qdbus_cast<QVariantMap>(reply->value(0)));
+            take(path, unpack<QVariantMap>(reply->value(0), QLatin1StringView("a{sv}")));
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Time.h"
 
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusError>
 #include <QDBusMessage>
@@ -16,6 +17,17 @@ namespace quillmere {
 
 /// The arguments of the answer, or why there is none (a timeout is QDBusError::NoReply).
 using BusReply = tl::expected<QVariantList, QDBusError>;
+
+/// A packed value of an answer. One of another signature reads as an empty one: to unpack it all
+/// the same would not end well.
+template <class Value>
+Value unpack(const QVariant &argument, QLatin1StringView signature)
+{
+    if (!argument.canConvert<QDBusArgument>())
+        return {};
+    const auto packed = argument.value<QDBusArgument>();
+    return packed.currentSignature() == signature ? qdbus_cast<Value>(packed) : Value();
+}
 
 /// Calls to other programs on a bus that never make the caller wait. A class that calls keeps one
 /// as a member: once it is destroyed, answers still under way reach nobody. Main thread only.

@@ -79,7 +79,7 @@ std::shared_ptr<const Backlight> Backlight::open(const QString &directory, const
         const int file = openForReading(directory + QLatin1Char('/') + attribute);
         if (file < 0)
             continue;
-        const std::shared_ptr<const Backlight> device(new Backlight(name, file, maximum));
+        std::shared_ptr<const Backlight> device(new Backlight(name, file, maximum));
         if (device->level())
             return device;
     }

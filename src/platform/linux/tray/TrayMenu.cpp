@@ -2,6 +2,8 @@
 
 #include "dbusmenuadaptor.h"
 
+#include <QGuiApplication>
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -41,7 +43,8 @@ TrayMenu::TrayMenu(RunLoop &runLoop)
     registerTrayTypes();
     setProperty("Version", interfaceVersion);
     setProperty("Status", QStringLiteral("normal"));
-    setProperty("TextDirection", QStringLiteral("ltr"));
+    setProperty("TextDirection",
+                QGuiApplication::isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr"));
     setProperty("IconThemePath", QStringList());
     new DBusMenuAdaptor(this);
 }

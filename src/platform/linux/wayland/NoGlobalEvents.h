@@ -9,7 +9,9 @@ namespace quillmere {
 class NoGlobalEvents : public GlobalEvents
 {
 public:
-    Task onLeftMouseDown(std::function<void(QPointF position)>) override { return {}; }
+    Task onLeftMouseDown(Listener) override { return {}; }
+    Task onLeftMouseDragged(Listener) override { return {}; }
+    Task onLeftMouseUp(Listener) override { return {}; }
 };
 
 } // namespace quillmere

@@ -15,13 +15,15 @@ double beyondCircle(double radius, double distance)
     return radius - std::sqrt(std::max(0.0, radius * radius - distance * distance));
 }
 
-/// The bottom radius of an island of this height: that of the idle pill, of a HUD, of the
-/// dashboard.
+/// The bottom radius of an island of this height: that of the idle pill, of a HUD of one line or
+/// more, of the dashboard.
 double bottomRadius(double height)
 {
     if (height < 44)
         return 10;
-    return height < 120 ? 22 : 28;
+    if (height < 45)
+        return 22;
+    return height < 120 ? 24 : 28;
 }
 
 } // namespace
