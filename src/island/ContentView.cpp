@@ -154,6 +154,9 @@ void ContentView::pointerExited()
         return QString(u"HOVER_OUT — will schedule collapse in 0.35s (airPlayOpen=" +
                        truth(airPlayPickerOpen_) + u")");
     });
+    // One that was only held up by the pointer must not come before the countdown that begins now.
+    if (collapseIsRearmed_)
+        cancelCollapse();
     hoverOutChecks_.push_back(runLoop_.after(hoverOutGrace, [this] {
         const Task finished = std::move(hoverOutChecks_.front());
         hoverOutChecks_.pop_front();
@@ -277,6 +280,7 @@ void ContentView::dismissIdleActivity()
 
 void ContentView::scheduleCollapse(Duration delay)
 {
+    collapseIsRearmed_ = false;
     collapseWorkItem_ = runLoop_.after(delay, [this] { collapseDue(); });
 }
 
@@ -292,10 +296,10 @@ void ContentView::cancelCollapse()
 
 void ContentView::collapseDue()
 {
-    if (collapseIsHeldUp())
-        scheduleCollapse(std::max(seconds(settings_.autoCollapseDelay.get()), shortestRearm));
-    else
-        collapse();
+    if (!collapseIsHeldUp())
+        return collapse();
+    scheduleCollapse(std::max(seconds(settings_.autoCollapseDelay.get()), shortestRearm));
+    collapseIsRearmed_ = true;
 }
 
 void ContentView::collapse()

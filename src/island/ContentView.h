@@ -122,6 +122,7 @@ private:
     QSizeF islandSize_;
 
     Task collapseWorkItem_;
+    bool collapseIsRearmed_ = false;  ///< it was due, and something held the island open
     std::deque<Task> hoverOutChecks_; ///< in the order in which they come due
     std::deque<Task> observers_;
 };

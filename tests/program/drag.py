@@ -38,7 +38,8 @@ class Drag:
         self._desktop.run("xdotool", *arguments)
 
     def move(self, x, y):
-        self._point("mousemove", str(x), str(y))
+        # To a place the pointer is put without a motion; only the last step is one as of a real mouse.
+        self._point("mousemove", str(x - 1), str(y), "mousemove_relative", "1", "0")
         time.sleep(0.02)  # every source looks at the pointer at its own pace
 
     def move_to(self, x, y, steps=10):

@@ -101,7 +101,7 @@ TEST_F(ContentViewTest, PointerHoldsTheIslandOpenAndLeavingStartsTheCountdown)
     content.pointerEntered();
     EXPECT_EQ(shown(), "expanded");
     EXPECT_THAT(decisions(), ElementsAre("COLLAPSE TOGGLE isExpanded=true userExpanded=true"));
-    runLoop.advance(60s); // armed again each time
+    runLoop.advance(63900ms); // armed again each time, and soon again
     EXPECT_EQ(shown(), "expanded");
 
     settings.autoCollapseDelay.set(2.5);
