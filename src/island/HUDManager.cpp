@@ -106,11 +106,13 @@ void HUDManager::updateNowPlaying(HUDContent record, double elapsed, double dura
 
 void HUDManager::clearNowPlaying()
 {
-    onMain([this] {
-        progressInterpolationTimer_.cancel();
-        playhead_.advancing = false;
-        playhead_.progressTemplate.reset();
-        publish(currentNowPlaying_, std::nullopt, &HUDManager::currentNowPlayingChanged);
+    onMain([this] { publishWithoutPlayhead(std::nullopt); });
+}
+
+void HUDManager::showNowPlaying(HUDContent record)
+{
+    onMain([this, record = std::move(record)]() mutable {
+        publishWithoutPlayhead(std::move(record));
     });
 }
 
@@ -239,6 +241,14 @@ void HUDManager::applyPoll(PlayheadPoll poll)
         progressInterpolationTimer_ = runLoop_.every(interpolationInterval, interpolationTolerance,
                                                      [this] { emitPlayhead(runLoop_.now()); });
     emitPlayhead(now);
+}
+
+void HUDManager::publishWithoutPlayhead(std::optional<HUDContent> record)
+{
+    progressInterpolationTimer_.cancel();
+    playhead_.advancing = false;
+    playhead_.progressTemplate.reset();
+    publish(currentNowPlaying_, std::move(record), &HUDManager::currentNowPlayingChanged);
 }
 
 void HUDManager::emitPlayhead(Instant now)

@@ -54,6 +54,9 @@ public:
     void updateNowPlaying(HUDContent record, double elapsed, double duration);
     void clearNowPlaying();
 
+    /// Shows a track that has no length, and so no playhead, as it is.
+    void showNowPlaying(HUDContent record);
+
     /// Stops the playhead where it is, without waiting for a poll, and publishes `record`.
     void freezePlayhead(HUDContent record);
 
@@ -108,6 +111,7 @@ private:
     void overshoot();
 
     void applyPoll(PlayheadPoll poll);
+    void publishWithoutPlayhead(std::optional<HUDContent> record);
     void emitPlayhead(Instant now);
 
     RunLoop &runLoop_;

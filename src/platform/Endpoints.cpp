@@ -18,6 +18,10 @@ struct Row {
 constexpr std::array rows{
     Row{EndpointName::UpdateFeed, QLatin1StringView{"QUILLMERE_UPDATE_FEED_URL"},
         QLatin1StringView{QUILLMERE_UPDATE_FEED_URL}},
+    Row{EndpointName::StoreLookup, QLatin1StringView{"QUILLMERE_STORE_LOOKUP_URL"},
+        QLatin1StringView{"https://itunes.apple.com"}},
+    Row{EndpointName::VideoThumbnail, QLatin1StringView{"QUILLMERE_VIDEO_THUMBNAIL_URL"},
+        QLatin1StringView{"https://i.ytimg.com"}},
 };
 
 constexpr QLatin1StringView loopback{"127.0.0.1"};

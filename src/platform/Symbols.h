@@ -30,10 +30,27 @@ inline constexpr QLatin1StringView doc{"doc.fill"};
 
 inline constexpr QLatin1StringView arrowDownCircle{"arrow.down.circle.fill"};
 
-inline constexpr std::array all{
-    arrowDownCircle, chevronLeft,  chevronRight, xmark,        checkmark, doc,
-    speakerSlash,    speakerWave1, speakerWave2, speakerWave3, airpods,   headphones,
-    hifispeaker,     car,          tv,           sunMax,       battery25, trayAndArrowDown,
-    island};
+inline constexpr QLatin1StringView playCircle{"play.circle.fill"};
+
+inline constexpr std::array all{playCircle,
+                                arrowDownCircle,
+                                chevronLeft,
+                                chevronRight,
+                                xmark,
+                                checkmark,
+                                doc,
+                                speakerSlash,
+                                speakerWave1,
+                                speakerWave2,
+                                speakerWave3,
+                                airpods,
+                                headphones,
+                                hifispeaker,
+                                car,
+                                tv,
+                                sunMax,
+                                battery25,
+                                trayAndArrowDown,
+                                island};
 
 } // namespace quillmere::symbols

@@ -39,6 +39,7 @@ constexpr std::array glyphNames{
     GlyphName{symbols::checkmark, QLatin1StringView{"actions/object-select"}},
     GlyphName{symbols::doc, QLatin1StringView{"mimetypes/text-x-generic"}},
     GlyphName{symbols::arrowDownCircle, QLatin1StringView{"status/software-update-available"}},
+    GlyphName{symbols::playCircle, QLatin1StringView{"actions/media-playback-start"}},
     GlyphName{symbols::island, QLatin1StringView{"status/island"}},
 };
 
