@@ -15,8 +15,6 @@ using L1 = QLatin1StringView;
 
 constexpr L1 webDomain("youtube.com");
 constexpr L1 shortLinkDomain("youtu.be");
-constexpr L1 musicSuffix(" - YouTube Music");
-constexpr L1 siteSuffix(" - YouTube");
 
 bool isAt(const QString &host, L1 domain)
 {
@@ -65,14 +63,9 @@ QString videoIdentifier(const QString &address)
 
 QString videoTitle(const QString &tabTitle)
 {
-    static const QRegularExpression unreadCount(QStringLiteral("\\A\\(\\d+\\+?\\) "));
-    QString title = tabTitle.trimmed();
-    title.remove(unreadCount);
-    for (const L1 suffix : {musicSuffix, siteSuffix}) {
-        if (title.endsWith(suffix))
-            title.chop(suffix.size());
-    }
-    return title.trimmed();
+    static const QRegularExpression additions(
+        QStringLiteral("\\A\\s*\\(\\d+\\+?\\)(?=\\s)|(?:\\A|\\s)- YouTube(?: Music)?\\s*\\z"));
+    return QString(tabTitle).remove(additions).trimmed();
 }
 
 std::vector<VideoTab> videoTabs(const std::vector<BrowserTab> &tabs)

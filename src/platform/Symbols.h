@@ -32,25 +32,10 @@ inline constexpr QLatin1StringView arrowDownCircle{"arrow.down.circle.fill"};
 
 inline constexpr QLatin1StringView playCircle{"play.circle.fill"};
 
-inline constexpr std::array all{playCircle,
-                                arrowDownCircle,
-                                chevronLeft,
-                                chevronRight,
-                                xmark,
-                                checkmark,
-                                doc,
-                                speakerSlash,
-                                speakerWave1,
-                                speakerWave2,
-                                speakerWave3,
-                                airpods,
-                                headphones,
-                                hifispeaker,
-                                car,
-                                tv,
-                                sunMax,
-                                battery25,
-                                trayAndArrowDown,
-                                island};
+inline constexpr std::array all{
+    arrowDownCircle, chevronLeft,  chevronRight, xmark,        checkmark, doc,
+    speakerSlash,    speakerWave1, speakerWave2, speakerWave3, airpods,   headphones,
+    hifispeaker,     car,          tv,           sunMax,       battery25, trayAndArrowDown,
+    island,          playCircle};
 
 } // namespace quillmere::symbols
