@@ -22,8 +22,8 @@ QStringList browsersAmong(const QStringList &running, const QString &frontmost)
 {
     QStringList browsers;
     std::ranges::copy_if(running, std::back_inserter(browsers), &supportedBrowser);
-    std::ranges::stable_partition(
-        browsers, [&frontmost](const QString &browser) { return browser == frontmost; });
+    std::stable_partition(browsers.begin(), browsers.end(),
+                          [&frontmost](const QString &browser) { return browser == frontmost; });
     return browsers;
 }
 

@@ -87,10 +87,10 @@ void NowPlayingArtworkService::received(std::optional<PlayerReport> report, bool
     const QByteArray &data = fetch.report.artworkData;
     if (data.isEmpty() || data == decodedData_)
         return attachArtwork(std::move(fetch));
-    decode(std::move(fetch));
+    decode(fetch);
 }
 
-void NowPlayingArtworkService::decode(Fetch fetch)
+void NowPlayingArtworkService::decode(const Fetch &fetch)
 {
     runLoop_.background(
         owner_, [data = fetch.report.artworkData] { return decodePicture(data); },
@@ -121,17 +121,17 @@ void NowPlayingArtworkService::attachArtwork(Fetch fetch)
     }
     if (record.artwork)
         return deliver(std::move(fetch));
-    lookUp(std::move(fetch));
+    lookUp(fetch);
 }
 
-void NowPlayingArtworkService::lookUp(Fetch fetch)
+void NowPlayingArtworkService::lookUp(const Fetch &fetch)
 {
     const NowPlayingInfo &record = fetch.report.record;
     const ArtworkRequest request{record.title, record.bundleID.value_or(QString()),
                                  fetch.report.albumID};
     if (isLookedFor(request.title) || artworkSources(request).empty() ||
         !pauses_.mayAsk(request.title, runLoop_.now()))
-        return deliver(std::move(fetch));
+        return deliver(fetch);
     search_ = std::make_unique<ArtworkSearch>(tools_);
     search_->start(request, [this, fetch](const ArtworkFinding &finding) {
         const auto search = std::move(search_); // lives until this call is over

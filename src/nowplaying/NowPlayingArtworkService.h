@@ -58,9 +58,9 @@ private:
     bool send(MediaRemote::Command command);
     void askScript();
     void received(std::optional<PlayerReport> report, bool isFromMediaRemote);
-    void decode(Fetch fetch);
+    void decode(const Fetch &fetch);
     void attachArtwork(Fetch fetch);
-    void lookUp(Fetch fetch);
+    void lookUp(const Fetch &fetch);
     bool isLookedFor(const QString &title) const;
     void remember(const QString &title, const QImage &artwork);
     void conclude(const QString &title, const ArtworkFinding &finding);

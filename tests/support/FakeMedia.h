@@ -2,10 +2,10 @@
 
 #include "platform/AudioStreams.h"
 #include "platform/MediaRemote.h"
+#include "platform/RunLoop.h"
 #include "platform/RunningApplications.h"
 #include "platform/ScriptRunner.h"
 
-#include <deque>
 #include <map>
 #include <vector>
 
@@ -16,7 +16,7 @@ class FakeMediaRemote : public MediaRemote
 {
 public:
     bool isAvailable() const override { return available; }
-    void registerForNowPlayingNotifications() override { ++registrations; }
+    void registerForNowPlayingNotifications() override {}
     void getNowPlayingInfo(const Owner &owner,
                            std::function<void(const QVariantMap &)> done) override
     {
@@ -41,7 +41,6 @@ public:
 
     bool available = true;
     QVariantMap info;
-    int registrations = 0;
     int queries = 0;
     std::vector<int> commands;
     std::vector<double> positions;
@@ -50,17 +49,16 @@ private:
     std::vector<std::function<void(const QVariantMap &)>> waiting_;
 };
 
-/// Programs that answer when the test wants it to, by question and first argument.
+/// Programs that answer when the test wants it to.
 class FakeScriptRunner : public ScriptRunner
 {
 public:
     Task run(QLatin1StringView question, const QStringList &arguments,
              std::function<void(const ScriptAnswer &)> done) override
     {
-        const QString call = (QStringList{question} + arguments).join(u' ');
-        calls.append(call);
-        const int number = ++last_;
-        waiting_[number] = {call, std::move(done)};
+        calls.append((QStringList{question} + arguments).join(u' '));
+        const auto number = calls.size() - 1;
+        waiting_[number] = std::move(done);
         return Task([this, number] { waiting_.erase(number); });
     }
 
@@ -69,61 +67,46 @@ public:
     {
         if (waiting_.empty())
             return false;
-        const auto [call, done] = waiting_.extract(waiting_.begin()).mapped();
-        const auto found = answers.find(call);
-        done(found == answers.end() ? ScriptAnswer{} : found->second);
+        const auto call = waiting_.extract(waiting_.begin());
+        call.mapped()(answers[calls.at(call.key())]);
         return true;
     }
 
-    std::map<QString, ScriptAnswer> answers; ///< what is not there was answered without running
-    QStringList calls;
+    std::map<QString, ScriptAnswer> answers; ///< by call; none: answered without running
+    QStringList calls;                       ///< question and arguments of all there were
 
 private:
-    struct Call {
-        QString call;
-        std::function<void(const ScriptAnswer &)> done;
-    };
-    int last_ = 0;
-    std::map<int, Call> waiting_;
+    std::map<qsizetype, std::function<void(const ScriptAnswer &)>> waiting_;
 };
 
 class FakeRunningApplications : public RunningApplications
 {
 public:
     QStringList running() const override { return list; }
-    QString frontmost() const override { return front; }
+    QString frontmost() const override { return {}; }
     Task onChanged(std::function<void()>) override { return {}; }
 
     QStringList list;
-    QString front;
 };
 
-/// Applications that make sound as the test says.
+/// Applications that make sound as the test says. Answers when the run loop settles.
 class FakeAudioStreams : public AudioStreams
 {
 public:
+    explicit FakeAudioStreams(RunLoop &runLoop)
+        : runLoop_(runLoop)
+    {
+    }
     void isPlaying(const QString &application, const Owner &owner,
                    std::function<void(bool)> done) override
     {
-        waiting_.push_back([this, application, alive = owner.reference(), done] {
-            if (!alive.expired())
-                done(playing.contains(application));
-        });
-    }
-    bool answerOne()
-    {
-        if (waiting_.empty())
-            return false;
-        const auto answer = waiting_.front();
-        waiting_.pop_front();
-        answer();
-        return true;
+        runLoop_.post(owner, [this, application, done] { done(playing.contains(application)); });
     }
 
     QStringList playing;
 
 private:
-    std::deque<std::function<void()>> waiting_;
+    RunLoop &runLoop_;
 };
 
 } // namespace quillmere

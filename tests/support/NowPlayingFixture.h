@@ -19,76 +19,68 @@
 
 namespace quillmere {
 
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
 /// Now playing on fakes of everything it asks.
 class NowPlayingFixture : public testing::Test
 {
 protected:
     NowPlayingFixture()
     {
-        QLoggingCategory::setFilterRules(QStringLiteral("quillmere.media=true"));
+        QLoggingCategory::setFilterRules(u"quillmere.media=true"_s);
         logger.setEnabled(true);
-        logger.setEnabledCategories({IslandDebugLogger::Category::Poller});
+        play(u"Song"_s);
     }
 
-    /// Lets everybody answer who was asked; http waits for the test.
+    /// A player plays, or is paused on, a track.
+    void play(const QString &title, double rate = 1)
+    {
+        media.info = {{mediaInfo::title, title},
+                      {mediaInfo::duration, 200.0},
+                      {mediaInfo::elapsedTime, 12.345},
+                      {mediaInfo::bundleIdentifier, u"org.example.Player"_s},
+                      {mediaInfo::playbackRate, rate}};
+    }
+    void say(const QString &call, const QByteArray &output, const QByteArray &errors = {})
+    {
+        scripts.answers[call] = {true, true, output, errors};
+    }
+
+    /// Lets everybody answer who was asked, except for servers.
     void answer()
     {
         do {
             runLoop.settle();
             media.answer();
-        } while (scripts.answerOne() || streams.answerOne());
-        runLoop.settle();
+            runLoop.settle();
+        } while (scripts.answerOne());
     }
 
     /// Time passes, with answers every 10 ms.
     void advance(Duration span)
     {
-        const Instant end = runLoop.now() + span;
-        while (runLoop.now() < end) {
-            runLoop.advance(std::min<Duration>(end - runLoop.now(), std::chrono::milliseconds(10)));
-            answer();
-        }
-    }
-
-    /// A player's track.
-    static QVariantMap track(const QString &title, double rate = 1, double duration = 200)
-    {
-        return {{mediaInfo::title, title},
-                {mediaInfo::duration, duration},
-                {mediaInfo::elapsedTime, 12.345},
-                {mediaInfo::bundleIdentifier, QStringLiteral("org.example.Player")},
-                {mediaInfo::playbackRate, rate}};
+        for (const Instant end = runLoop.now() + span; runLoop.now() < end; answer())
+            runLoop.advance(10ms);
     }
 
     static QByteArray picture(int width, int height = 90)
     {
-        QImage image(width, height, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        QByteArray data;
-        QBuffer buffer(&data);
+        QBuffer buffer;
         buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "PNG");
-        return data;
+        QImage(width, height, QImage::Format_Mono).save(&buffer, "PNG");
+        return buffer.data();
     }
 
-    /// The messages in the debug log since the last call.
+    /// What the poller wrote into the debug log.
     QStringList debugLines()
     {
         logger.drain();
         QFile file(logger.logFile());
-        if (!file.open(QIODevice::ReadOnly))
-            return {};
-        file.seek(read_);
-        const auto lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
-        read_ = file.pos();
-        QStringList messages;
-        for (const QString &line : lines) {
-            static const QRegularExpression form(
-                QStringLiteral("\\[POLLER\\] \\[\\w+:\\d+\\] (.*)"));
-            if (const auto match = form.match(line); match.hasMatch())
-                messages.append(match.captured(1));
-        }
-        return messages;
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        const auto lines = QString::fromUtf8(file.readAll()).split(u'\n');
+        static const QRegularExpression head(u"^.*\\[POLLER\\] \\[\\w+:\\d+\\] "_s);
+        return lines.filter(head).replaceInStrings(head, QString());
     }
 
     QTemporaryDir dir;
@@ -100,16 +92,13 @@ protected:
     FakeMediaRemote media;
     FakeScriptRunner scripts;
     FakeRunningApplications applications;
-    FakeAudioStreams streams;
+    FakeAudioStreams streams{runLoop};
     FakeHttpClient http;
     std::optional<NowPlayingArtworkService> service{std::in_place, runLoop,      media,
                                                     scripts,       applications, http};
     std::optional<NowPlayingPoller> poller{
         NowPlayingPoller::Services{runLoop, fixture.settings, fixture.notifications, hud, logger,
                                    *service, scripts, applications, streams}};
-
-private:
-    qint64 read_ = 0;
 };
 
 } // namespace quillmere

@@ -1,11 +1,10 @@
 #include "nowplaying/ArtworkAddresses.h"
 #include "nowplaying/BrowserTabs.h"
 #include "nowplaying/Browsers.h"
-#include "nowplaying/LookupPauses.h"
 #include "nowplaying/PlayerReport.h"
 #include "platform/MediaRemote.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <limits>
 
@@ -13,189 +12,131 @@ namespace quillmere {
 
 namespace {
 
-using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+using Pairs = std::vector<std::pair<QString, QString>>;
 
-QString q(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-TEST(PlayerReportTest, ReadsTheScriptsFields)
+TEST(PlayerReportTest, TakesOnlyWhatReadsAsWhatItShouldBe)
 {
     const auto all = parseScriptText(u" Song || Artist||200.5|| -3 ||app||12||34||1\n");
     ASSERT_TRUE(all);
-    EXPECT_EQ(all->record, (NowPlayingInfo{.title = q("Song"),
-                                           .artist = q("Artist"),
-                                           .duration = 200.5,
-                                           .elapsedTime = -3,
-                                           .bundleID = q("app"),
-                                           .isPlaying = true}));
-    EXPECT_EQ(all->albumID + u'/' + all->storeID, q("12/34"));
+    EXPECT_EQ(all->record,
+              (NowPlayingInfo{u"Song"_s, u"Artist"_s, {}, 200.5, -3, u"app"_s, {}, true}));
+    EXPECT_EQ(all->albumID + u'/' + all->storeID, u"12/34"_s);
+    EXPECT_EQ(parseScriptText(u"T||||||||||||||0")->record.isPlaying, false);
     EXPECT_FALSE(parseScriptText(u""));
     EXPECT_FALSE(parseScriptText(u"  ||Artist||1"));
-    for (const char *text :
-         {"T", "T||||||", "T||||nan||inf||||../x||-1||", "T||||0||x||||1 2||x||y"}) {
-        const auto report = parseScriptText(q(text));
-        ASSERT_TRUE(report) << text;
-        EXPECT_EQ(report->record, NowPlayingInfo{.title = q("T")}) << text;
-        EXPECT_EQ(report->albumID + report->storeID, QString()) << text;
-    }
-    EXPECT_EQ(parseScriptText(u"T||||||||||||||-0.5")->record.isPlaying, false);
-}
 
-TEST(PlayerReportTest, TakesOnlyTheRightTypesFromADictionary)
-{
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-    const QVariantMap wrong{{mediaInfo::title, q("T")},
-                            {mediaInfo::artist, 7},
-                            {mediaInfo::duration, q("200")},
-                            {mediaInfo::elapsedTime, nan},
-                            {mediaInfo::bundleIdentifier, QByteArray("app")},
-                            {mediaInfo::storeIdentifier, q("12")},
-                            {mediaInfo::albumStoreIdentifier, -1},
-                            {mediaInfo::playbackRate, true},
-                            {mediaInfo::artworkData, q("data")},
-                            {mediaInfo::artworkImage, QImage()}};
-    const auto report = parseMediaInfo(wrong);
-    ASSERT_TRUE(report);
-    EXPECT_EQ(report->record, NowPlayingInfo{.title = q("T")});
-    EXPECT_EQ(report->albumID + report->storeID + q(report->artworkData), QString());
-    EXPECT_FALSE(parseMediaInfo({{mediaInfo::title, QString()}}));
-    EXPECT_FALSE(parseMediaInfo({{mediaInfo::title, 5}}));
-    const auto numbers = parseMediaInfo({{mediaInfo::title, q("T")},
-                                         {mediaInfo::duration, 200},
-                                         {mediaInfo::playbackRate, 0},
-                                         {mediaInfo::albumStoreIdentifier, qint64{1} << 40}});
-    EXPECT_EQ(numbers->record.duration, 200.0);
-    EXPECT_EQ(numbers->record.isPlaying, false);
-    EXPECT_EQ(numbers->albumID, q("1099511627776"));
+    using namespace mediaInfo;
+    const QVariantMap wrong{{title, u"T"_s},
+                            {artist, 7},
+                            {duration, u"200"_s},
+                            {elapsedTime, nan},
+                            {bundleIdentifier, QByteArray("app")},
+                            {storeIdentifier, u"12"_s},
+                            {albumStoreIdentifier, -1},
+                            {playbackRate, true},
+                            {artworkData, u"x"_s},
+                            {artworkImage, QImage()}};
+    for (const auto &report : {parseMediaInfo(wrong), parseScriptText(u"T"),
+                               parseScriptText(u"T||||0||nan||||../x||-1||"),
+                               parseScriptText(u"T||||inf||x||||1 2||x||y||z")}) {
+        ASSERT_TRUE(report);
+        EXPECT_EQ(report->record, NowPlayingInfo{u"T"_s});
+        EXPECT_TRUE(report->albumID.isEmpty() && report->storeID.isEmpty());
+    }
+    EXPECT_FALSE(parseMediaInfo({{title, 5}}));
+    const auto numbers = parseMediaInfo({{title, u"T"_s},
+                                         {duration, 200},
+                                         {playbackRate, 0},
+                                         {albumStoreIdentifier, qint64{1} << 40}});
+    EXPECT_EQ(numbers->record, (NowPlayingInfo{u"T"_s, {}, {}, 200, {}, {}, {}, false}));
+    EXPECT_EQ(numbers->albumID, u"1099511627776"_s);
 }
 
 TEST(BrowsersTest, AreKnownByIdentifierAndName)
 {
-    const std::pair<const char *, const char *> cases[] = {
-        {"Google Chrome", "com.google.Chrome"},
-        {"org.webkit.MiniBrowser", "com.apple.Safari"},
-        {"Brave Browser", "com.brave.Browser"},
-        {"com.microsoft.edgemac", "com.microsoft.edgemac"},
-        {"Microsoft Edge", "com.microsoft.edgemac"},
-        {"Arc", "company.thebrowser.Browser"},
-        {"VIVALDI", "com.vivaldi.Vivaldi"},
-        {"opera", "com.operasoftware.Opera"},
-        {"org.mozilla.firefox", "org.mozilla.firefox"},
-        {"org.chromium.Chromium", "org.chromium.Chromium"},
-        {"org.example.Player", "org.example.Player"},
-    };
+    const Pairs cases{{u"Google Chrome"_s, u"com.google.Chrome"_s},
+                      {u"org.webkit.Mini"_s, u"com.apple.Safari"_s},
+                      {u"Brave Browser"_s, u"com.brave.Browser"_s},
+                      {u"VIVALDI"_s, u"com.vivaldi.Vivaldi"_s},
+                      {u"Microsoft Edge"_s, u"com.microsoft.edgemac"_s},
+                      {u"opera"_s, u"com.operasoftware.Opera"_s},
+                      {u"Arc"_s, u"company.thebrowser.Browser"_s},
+                      {u"org.mozilla.firefox"_s, u"org.mozilla.firefox"_s},
+                      {u"org.example.March"_s, u"org.example.March"_s}};
     for (const auto &[application, bundleID] : cases)
-        EXPECT_EQ(browserBundleID(q(application)), q(bundleID)) << application;
-    EXPECT_TRUE(isBrowser(q("com.kagi.kagimacOS.Orion")));
-    EXPECT_FALSE(isBrowser(q("org.example.Player")));
+        EXPECT_EQ(browserBundleID(application), bundleID);
+    EXPECT_TRUE(isBrowser(u"com.kagi.kagimacOS.Orion"_s));
+    EXPECT_FALSE(isBrowser(u"org.example.Player"_s));
 }
 
-TEST(BrowserTabsTest, FindVideos)
+TEST(BrowserTabsTest, AreReadAndOneIsElected)
 {
-    const std::pair<const char *, const char *> addresses[] = {
-        {"https://www.youtube.com/watch?list=x&v=abc_-123XYZ", "abc_-123XYZ"},
-        {"https://music.youtube.com/watch?v=id", "id"},
-        {"https://youtu.be/id?t=5", "id"},
-        {"https://youtu.be/", ""},
-        {"https://www.youtube.com/", ""},
-        {"https://www.youtube.com/watch?v=../../x", ""},
-        {"https://youtu.be/a/b", ""},
-        {"https://notyoutube.com/watch?v=id", ""},
-        {"https://youtube.com.example.org/watch?v=id", ""},
-        {"https://example.org/?u=youtube.com&v=id", ""},
-        {"about:blank", ""},
-    };
+    const QString web = u"https://www.youtube.com"_s;
+    const Pairs addresses{{web + u"/watch?list=x&v=abc_-123XYZ", u"abc_-123XYZ"_s},
+                          {u"https://music.youtube.com/watch?v=id"_s, u"id"_s},
+                          {u"https://youtu.be/id?t=5"_s, u"id"_s},
+                          {u"https://youtu.be/"_s, {}},
+                          {web, {}},
+                          {web + u"/watch?v=../../x", {}},
+                          {u"https://youtu.be/a/b"_s, {}},
+                          {u"https://notyoutube.com/watch?v=id"_s, {}},
+                          {u"https://youtube.com.example.org/watch?v=id"_s, {}},
+                          {u"https://example.org/?u=youtube.com&v=id"_s, {}},
+                          {u"about:blank"_s, {}}};
     for (const auto &[address, id] : addresses)
-        EXPECT_EQ(videoIdentifier(q(address)), q(id)) << address;
-    const std::pair<const char *, const char *> titles[] = {{"Song - YouTube Music", "Song"},
-                                                            {"(12) Film - YouTube", "Film"},
-                                                            {"(2) A (1)", "A (1)"},
-                                                            {" - YouTube", ""},
-                                                            {"YouTube", "YouTube"}};
+        EXPECT_EQ(videoIdentifier(address), id) << qPrintable(address);
+    const Pairs titles{{u"Song - YouTube Music"_s, u"Song"_s},
+                       {u"(12) Film - YouTube"_s, u"Film"_s},
+                       {u"(2) A (1)"_s, u"A (1)"_s},
+                       {u" - YouTube"_s, {}},
+                       {u"YouTube"_s, u"YouTube"_s}};
     for (const auto &[tab, title] : titles)
-        EXPECT_EQ(videoTitle(q(tab)), q(title)) << tab;
-}
+        EXPECT_EQ(videoTitle(tab), title) << qPrintable(tab);
 
-TEST(BrowserTabsTest, ElectOne)
-{
-    const QString mail = q("https://mail|~|Mail\n");
-    const QString a = q("https://youtu.be/aa|~|A - YouTube\n");
-    const QString b = q("https://youtu.be/bb|~|B - YouTube\n");
-    const struct {
-        QString text;
-        const char *shown;
-        const char *elected;
-    } cases[] = {
-        {a + b + a, "https://youtu.be/bb", "aa"}, // the front tab
-        {mail + a + b, "https://youtu.be/bb", "bb"},
-        {mail + a + b, "", "aa"},
-        {q("|~|A\nhttps://youtu.be/cc|~|x|~|y\nhttps://youtu.be/dd\n") + b, "", "bb"},
-        {q("https://youtu.be/ee|~| - YouTube\n"), "", ""}, // nothing to show
-        {QString(), "", ""},
-    };
-    for (const auto &[text, shown, elected] : cases) {
-        const auto tab = electVideoTab(videoTabs(parseTabs(text)), q(shown));
-        EXPECT_EQ(tab ? tab->videoID : QString(), q(elected)) << qPrintable(text);
-    }
-    const QString text = mail + a + b;
-    EXPECT_EQ(videoTabTitled(videoTabs(parseTabs(text)), q("B"))->videoID, q("bb"));
-    EXPECT_FALSE(videoTabTitled(videoTabs(parseTabs(text)), q("C")));
+    const QString mail = u"https://mail|~|Mail\n"_s;
+    const QString a = u"https://youtu.be/aa|~|A - YouTube\n"_s;
+    const QString b = u"https://youtu.be/bb|~|B - YouTube\n"_s;
+    const QString broken =
+        u"|~|A\nhttps://youtu.be/cc|~|x|~|y\nhttps://youtu.be/dd\nhttps://youtu.be/ee|~| - YouTube\n"_s;
+    const std::tuple<QString, QString, QString> cases[] = {
+        {a + b + a, u"https://youtu.be/bb"_s, u"aa"_s},
+        {mail + a + b, u"https://youtu.be/bb"_s, u"bb"_s},
+        {mail + a + b, {}, u"aa"_s},
+        {broken + b, {}, u"bb"_s},
+        {broken, {}, {}}};
+    for (const auto &[text, shown, elected] : cases)
+        EXPECT_EQ(electVideoTab(videoTabs(parseTabs(text)), shown).value_or(VideoTab()).videoID,
+                  elected)
+            << qPrintable(text);
 }
 
 TEST(ArtworkAddressesTest, AreBuiltAndRead)
 {
-    const auto music = [](const char *app, const char *store, const char *album) {
-        return appleMusicPage(q(app), q(store), q(album)).value_or(q("none")).toStdString();
+    const auto music = [](const QString &app, const QString &store, const QString &album) {
+        return appleMusicPage(app, store, album).value_or(u"none"_s);
     };
-    EXPECT_EQ(music("com.apple.Music", "1", "2"), "https://music.apple.com/us/song/1");
-    EXPECT_EQ(music("com.apple.iTunes", "", "2"), "https://music.apple.com/us/album/2");
-    EXPECT_EQ(music("com.apple.podcasts", "", ""), "none");
-    EXPECT_EQ(music("org.example.Player", "1", "2"), "none");
+    EXPECT_EQ(music(u"com.apple.Music"_s, u"1"_s, u"2"_s), u"https://music.apple.com/us/song/1"_s);
+    EXPECT_EQ(music(u"com.apple.iTunes"_s, {}, u"2"_s), u"https://music.apple.com/us/album/2"_s);
+    EXPECT_EQ(music(u"com.apple.podcasts"_s, {}, {}), u"none"_s);
+    EXPECT_EQ(music(u"org.example.Player"_s, u"1"_s, u"2"_s), u"none"_s);
 
-    EXPECT_EQ(storeLookupUrl(QUrl(q("https://h/base/")), q("7")).toString(),
-              q("https://h/base/lookup?id=7&entity=album&limit=1"));
-    EXPECT_EQ(
-        storeArtworkUrl("\n\n{\"results\":[{\"artworkUrl100\":\"https://h/100x100bb.jpg\"}]}"),
-        q("https://h/600x600bb.jpg"));
+    EXPECT_EQ(storeLookupUrl(QUrl(u"https://h/base/"_s), u"7"_s).toString(),
+              u"https://h/base/lookup?id=7&entity=album&limit=1"_s);
     EXPECT_EQ(storeArtworkUrl("{\"results\":[{\"artworkUrl100\":\"https://h/100x100-75.jpg\"}]}"),
-              q("https://h/600x600-75.jpg"));
+              u"https://h/600x600-75.jpg"_s);
     for (const char *reply : {"", "{", "[]", "{\"results\":{}}", "{\"results\":[]}",
                               "{\"results\":[7]}", "{\"results\":[{\"artworkUrl100\":5}]}"})
         EXPECT_EQ(storeArtworkUrl(reply), QString()) << reply;
-    EXPECT_EQ(securePictureUrl(q("http://h/a"), false).toString(), q("https://h/a"));
-    EXPECT_EQ(securePictureUrl(q("http://127.0.0.1/a"), true).toString(), q("http://127.0.0.1/a"));
 
-    EXPECT_EQ(spotifyPictureUrl(q("https://open.spotify.com/image/ab")).toString(),
-              q("https://i.scdn.co/image/ab"));
-    const std::pair<const char *, const char *> links[] = {
-        {"spotify:track:a1", "https://open.spotify.com/track/a1"},
-        {"https://open.spotify.com/episode/b2?si=x", "https://open.spotify.com/episode/b2"},
-        {"spotify:local:a:b:c:1", "none"},
-        {"spotify:track:a/../b", "none"},
-        {"javascript:alert(1)", "none"},
-    };
+    const Pairs links{
+        {u"https://open.spotify.com/episode/b2?si=x"_s, u"https://open.spotify.com/episode/b2"_s},
+        {u"spotify:local:a:b:c:1"_s, u"none"_s},
+        {u"spotify:track:a/../b"_s, u"none"_s},
+        {u"javascript:alert(1)"_s, u"none"_s}};
     for (const auto &[link, page] : links)
-        EXPECT_EQ(spotifyPage(q(link)).value_or(q("none")), q(page)) << link;
-}
-
-TEST(LookupPausesTest, GrowWithEveryFailure)
-{
-    LookupPauses pauses;
-    const Instant start{1h};
-    int asked = 0;
-    for (Duration time = 0s; time <= 300s; time += 1s) {
-        if (!pauses.mayAsk(q("T"), start + time))
-            continue;
-        ++asked;
-        pauses.failed(q("T"), start + time);
-    }
-    EXPECT_EQ(asked, 8);
-    EXPECT_TRUE(pauses.mayAsk(q("other"), start));
-    for (int i = 0; i < 20; ++i)
-        pauses.failed(q("T"), start);
-    EXPECT_TRUE(pauses.mayAsk(q("T"), start + 10min));
+        EXPECT_EQ(spotifyPage(link).value_or(u"none"_s), page);
 }
 
 } // namespace
