@@ -33,6 +33,9 @@ public:
     Task onAvailabilityChanged(std::function<void(bool)> listener) override;
     bool isAvailable() const override { return available_; }
 
+    /// The connection, for questions about other things than devices; null while there is none.
+    pa_context *context() const { return context_; }
+
 private:
     struct Output {
         AudioDeviceID id;
