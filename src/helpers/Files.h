@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+namespace quillmere {
+
+/// Reads a regular file of at most `limit` bytes; anything else counts as missing and does not hold
+/// the reader up, whatever it is.
+std::optional<std::string> readFile(const std::string &path, std::size_t limit);
+
+} // namespace quillmere
