@@ -9,7 +9,7 @@ namespace quillmere {
 
 namespace {
 
-constexpr std::size_t chunk = 64 * 1024;
+constexpr std::size_t chunk = 64UL * 1024;
 
 std::optional<std::string> readOpen(int file, std::size_t limit)
 {

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t longestAddress = 8192;
 constexpr std::size_t longestTitle = 1024;
-constexpr std::size_t longestText = 192 * 1024; // who asks stops reading somewhat later
+constexpr std::size_t longestText = 192UL * 1024; // who asks stops reading somewhat later
 
 bool isControl(char character)
 {

@@ -24,8 +24,8 @@ public:
         NotStarted
     };
 
-    static constexpr qint64 outputLimit = 256 * 1024;
-    static constexpr qint64 errorsLimit = 4 * 1024; ///< the rest is read and forgotten
+    static constexpr qint64 outputLimit = 256LL * 1024;
+    static constexpr qint64 errorsLimit = 4LL * 1024; ///< the rest is read and forgotten
 
     /// `onEnd` is called once, perhaps within the constructor; it may not destroy this object.
     ChildProcess(const QString &program, const QStringList &arguments,
