@@ -5,11 +5,13 @@
 #include "platform/linux/wayland/QtWayland.h"
 #include "platform/linux/wayland/WaylandPanelWindow.h"
 #include "platform/linux/wayland/WaylandProbe.h"
+#include "platform/linux/wayland/WaylandRunningApplications.h"
 #include "platform/linux/window/QtScreens.h"
 #include "platform/linux/window/X11DragPasteboard.h"
 #include "platform/linux/window/X11GlobalEvents.h"
 #include "platform/linux/window/X11Observer.h"
 #include "platform/linux/window/X11PanelWindow.h"
+#include "platform/linux/window/X11RunningApplications.h"
 
 namespace quillmere {
 
@@ -22,6 +24,7 @@ public:
         : panelWindow_(window, observer_)
         , globalEvents_(observer_.connection())
         , dragPasteboard_(observer_)
+        , runningApplications_(observer_)
     {
     }
 
@@ -29,6 +32,7 @@ public:
     PanelWindow &panelWindow() override { return panelWindow_; }
     GlobalEvents &globalEvents() override { return globalEvents_; }
     DragPasteboard &dragPasteboard() override { return dragPasteboard_; }
+    RunningApplications &runningApplications() override { return runningApplications_; }
 
 private:
     QtScreens screens_;
@@ -36,13 +40,16 @@ private:
     X11PanelWindow panelWindow_;
     X11GlobalEvents globalEvents_;
     X11DragPasteboard dragPasteboard_;
+    X11RunningApplications runningApplications_;
 };
 
 class WaylandWindowSystem : public WindowSystem
 {
 public:
     explicit WaylandWindowSystem(QWindow &window)
-        : panelWindow_(window)
+        : globals_(*qtwayland::display())
+        , panelWindow_(window, globals_)
+        , runningApplications_(globals_)
     {
     }
 
@@ -50,12 +57,15 @@ public:
     PanelWindow &panelWindow() override { return panelWindow_; }
     GlobalEvents &globalEvents() override { return globalEvents_; }
     DragPasteboard &dragPasteboard() override { return dragPasteboard_; }
+    RunningApplications &runningApplications() override { return runningApplications_; }
 
 private:
     QtScreens screens_;
+    WaylandGlobals globals_;
     WaylandPanelWindow panelWindow_;
     NoGlobalEvents globalEvents_;
     NoDragPasteboard dragPasteboard_;
+    WaylandRunningApplications runningApplications_;
 };
 
 /// The plugin's name, or a list of them in order of preference; empty leaves it to Qt.

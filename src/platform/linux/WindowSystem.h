@@ -12,6 +12,7 @@ namespace quillmere {
 class DragPasteboard;
 class GlobalEvents;
 class PanelWindow;
+class RunningApplications;
 class Screens;
 
 /// The services that depend on which window system carries the program.
@@ -24,6 +25,7 @@ public:
     virtual PanelWindow &panelWindow() = 0;
     virtual GlobalEvents &globalEvents() = 0;
     virtual DragPasteboard &dragPasteboard() = 0;
+    virtual RunningApplications &runningApplications() = 0;
 };
 
 /// Chooses the window system by what the compositor can do, and tells Qt, which has to know before

@@ -28,9 +28,9 @@ QRect surfaceRect(const QRectF &island, const QScreen &screen)
 
 } // namespace
 
-WaylandPanelWindow::WaylandPanelWindow(QWindow &window)
+WaylandPanelWindow::WaylandPanelWindow(QWindow &window, WaylandGlobals &globals)
     : window_(&window)
-    , globals_(*qtwayland::display())
+    , globals_(globals)
 {
     update_.setSingleShot(true);
     connect(&update_, &QTimer::timeout, this, &WaylandPanelWindow::update);

@@ -26,7 +26,7 @@ namespace quillmere {
 class WaylandPanelWindow : public QObject, public PanelWindow
 {
 public:
-    explicit WaylandPanelWindow(QWindow &window);
+    WaylandPanelWindow(QWindow &window, WaylandGlobals &globals);
     ~WaylandPanelWindow() override;
 
     Capabilities capabilities() const override;
@@ -62,7 +62,7 @@ private:
     void updateCovered();
 
     QPointer<QWindow> window_;
-    WaylandGlobals globals_;
+    WaylandGlobals &globals_;
     QRectF frame_;
     bool visible_ = false;
     bool covered_ = false;

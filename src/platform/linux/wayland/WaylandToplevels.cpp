@@ -8,10 +8,18 @@
 
 namespace quillmere {
 
+namespace {
+
+constexpr int longestName = 255;
+
+} // namespace
+
 /// A window as of the last `done`; what comes before one is only half of a new state.
 struct WaylandToplevels::Toplevel {
     struct State {
-        bool coversOutput = false; ///< active and full-screen
+        QString application;
+        bool isActive = false;
+        bool isFullscreen = false;
         std::set<const wl_output *> outputs;
         bool operator==(const State &) const = default;
     };
@@ -38,7 +46,12 @@ struct WaylandToplevels::Events {
 
     static void finished(void *, zwlr_foreign_toplevel_manager_v1 *) {}
 
-    static void text(void *, Handle *, const char *) {}
+    static void title(void *, Handle *, const char *) {}
+
+    static void application(void *data, Handle *, const char *name)
+    {
+        toplevel(data).pending.application = QString::fromUtf8(name).left(longestName);
+    }
 
     static void outputEnter(void *data, Handle *, wl_output *output)
     {
@@ -57,9 +70,9 @@ struct WaylandToplevels::Events {
         const auto has = [&values](std::uint32_t state) {
             return std::find(values.begin(), values.end(), state) != values.end();
         };
-        toplevel(data).pending.coversOutput =
-            has(ZWLR_FOREIGN_TOPLEVEL_HANDLE_V1_STATE_ACTIVATED) &&
-            has(ZWLR_FOREIGN_TOPLEVEL_HANDLE_V1_STATE_FULLSCREEN);
+        auto &pending = toplevel(data).pending;
+        pending.isActive = has(ZWLR_FOREIGN_TOPLEVEL_HANDLE_V1_STATE_ACTIVATED);
+        pending.isFullscreen = has(ZWLR_FOREIGN_TOPLEVEL_HANDLE_V1_STATE_FULLSCREEN);
     }
 
     static void done(void *data, Handle *)
@@ -79,7 +92,7 @@ struct WaylandToplevels::Events {
 
     static constexpr zwlr_foreign_toplevel_manager_v1_listener managerListener{added, finished};
     static constexpr zwlr_foreign_toplevel_handle_v1_listener handleListener{
-        text, text, outputEnter, outputLeave, state, done, closed};
+        title, application, outputEnter, outputLeave, state, done, closed};
 };
 
 WaylandToplevels::WaylandToplevels(zwlr_foreign_toplevel_manager_v1 &manager)
@@ -93,8 +106,25 @@ WaylandToplevels::~WaylandToplevels() = default;
 bool WaylandToplevels::isCovered(const wl_output &output) const
 {
     return std::any_of(toplevels_.begin(), toplevels_.end(), [&output](const auto &toplevel) {
-        return toplevel->current.coversOutput && toplevel->current.outputs.contains(&output);
+        const auto &state = toplevel->current;
+        return state.isActive && state.isFullscreen && state.outputs.contains(&output);
     });
+}
+
+QStringList WaylandToplevels::applications() const
+{
+    QStringList names;
+    for (const auto &toplevel : toplevels_)
+        names.append(toplevel->current.application);
+    return names;
+}
+
+QString WaylandToplevels::activeApplication() const
+{
+    const auto active =
+        std::find_if(toplevels_.begin(), toplevels_.end(),
+                     [](const auto &toplevel) { return toplevel->current.isActive; });
+    return active == toplevels_.end() ? QString() : (*active)->current.application;
 }
 
 void WaylandToplevels::remove(const Toplevel &toplevel)

@@ -3,6 +3,8 @@
 #include "platform/Listeners.h"
 #include "platform/linux/wayland/WaylandProxy.h"
 
+#include <QStringList>
+
 #include "wlr-foreign-toplevel-management-unstable-v1-client.h"
 
 #include <memory>
@@ -10,8 +12,8 @@
 
 namespace quillmere {
 
-/// The windows of all programs as the compositor tells of them: which of them has the focus and
-/// fills an output.
+/// The windows of all programs as the compositor tells of them: whose they are, which of them
+/// has the focus and fills an output.
 class WaylandToplevels
 {
 public:
@@ -21,6 +23,13 @@ public:
 
     /// Whether the active window is a full-screen window on this output.
     bool isCovered(const wl_output &output) const;
+
+    /// The application of each window as its program names it, mostly by the desktop entry; empty
+    /// where it doesn't.
+    QStringList applications() const;
+    /// That of the window with the focus; empty while none has it.
+    QString activeApplication() const;
+
     Task onChanged(std::function<void()> listener) { return listeners_.add(std::move(listener)); }
 
 private:

@@ -10,8 +10,9 @@ namespace quillmere {
 
 X11Atoms X11Atoms::intern(xcb_connection_t *connection, int screenNumber)
 {
-    const std::array<std::pair<std::string, xcb_atom_t X11Atoms::*>, 14> names{{
+    const std::array<std::pair<std::string, xcb_atom_t X11Atoms::*>, 17> names{{
         {"_NET_ACTIVE_WINDOW", &X11Atoms::activeWindow},
+        {"_NET_CLIENT_LIST", &X11Atoms::clientList},
         {"_NET_CLIENT_LIST_STACKING", &X11Atoms::clientListStacking},
         {"_NET_WM_STATE", &X11Atoms::windowState},
         {"_NET_WM_STATE_FULLSCREEN", &X11Atoms::fullscreen},
@@ -20,6 +21,8 @@ X11Atoms X11Atoms::intern(xcb_connection_t *connection, int screenNumber)
         {"_NET_WM_WINDOW_TYPE_DOCK", &X11Atoms::dock},
         {"_COMPTON_SHADOW", &X11Atoms::comptonShadow},
         {"_GTK_FRAME_EXTENTS", &X11Atoms::frameExtents},
+        {"_KDE_NET_WM_DESKTOP_FILE", &X11Atoms::desktopFile},
+        {"_GTK_APPLICATION_ID", &X11Atoms::gtkApplication},
         {"XdndSelection", &X11Atoms::dragSelection},
         {"TARGETS", &X11Atoms::targets},
         {"text/uri-list", &X11Atoms::uriList},

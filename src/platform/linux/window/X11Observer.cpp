@@ -45,6 +45,11 @@ X11Observer::X11Observer()
     connection_.flush();
 }
 
+Task X11Observer::onActivated(std::function<void()> listener)
+{
+    return activationListeners_.add(std::move(listener));
+}
+
 Task X11Observer::onFullscreenWindowChanged(std::function<void()> listener)
 {
     return fullscreenListeners_.add(std::move(listener));
@@ -140,10 +145,11 @@ void X11Observer::activate(xcb_window_t window)
     activeWindow_ = window;
     if (window == XCB_WINDOW_NONE) {
         setFullscreenWindow(std::nullopt);
-        return;
+    } else {
+        select(connection_.raw(), window, activeWindowEvents);
+        queryFullscreen();
     }
-    select(connection_.raw(), window, activeWindowEvents);
-    queryFullscreen();
+    activationListeners_.notify();
 }
 
 void X11Observer::queryFullscreen()

@@ -19,6 +19,10 @@ public:
     XcbConnection &connection() { return connection_; }
     const X11Atoms &atoms() const { return atoms_; }
 
+    /// XCB_WINDOW_NONE while there is none.
+    xcb_window_t activeWindow() const { return activeWindow_; }
+    Task onActivated(std::function<void()> listener);
+
     /// The active window's place in native pixels if it is a full-screen window.
     std::optional<QRect> fullscreenWindow() const { return fullscreenWindow_; }
     Task onFullscreenWindowChanged(std::function<void()> listener);
@@ -51,6 +55,7 @@ private:
     std::optional<QRect> fullscreenWindow_;
     bool composited_ = true;
 
+    Listeners<> activationListeners_;
     Listeners<> fullscreenListeners_;
     Listeners<> compositedListeners_;
     Listeners<> restackListeners_;

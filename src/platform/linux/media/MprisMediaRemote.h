@@ -1,0 +1,65 @@
+#pragma once
+
+#include "platform/MediaRemote.h"
+#include "platform/NotificationCenter.h"
+#include "platform/linux/media/ArtworkLoader.h"
+#include "platform/linux/media/MprisPlayer.h"
+#include "platform/linux/media/MprisPlayers.h"
+
+#include <memory>
+#include <vector>
+
+namespace quillmere {
+
+/// The media players of the session bus, of which one is elected to be the one that plays. None of
+/// them is trusted, waited for or started. Begins to look for them with the first question or
+/// registration. Main thread only.
+class MprisMediaRemote : public QObject, public MediaRemote
+{
+    Q_OBJECT
+
+public:
+    MprisMediaRemote(RunLoop &runLoop, NotificationCenter &notificationCenter,
+                     HttpClient &httpClient, const QDBusConnection &sessionBus);
+    ~MprisMediaRemote() override;
+
+    bool isAvailable() const override;
+    void registerForNowPlayingNotifications() override;
+    void getNowPlayingInfo(const Owner &owner,
+                           std::function<void(const QVariantMap &info)> done) override;
+    bool sendCommand(Command command) override;
+    void setElapsedTime(double seconds) override;
+
+private:
+    /// What has changed since the last posts.
+    struct News {
+        bool info = false;
+        bool application = false;
+        bool isPlaying = false;
+    };
+
+    void begin();
+    void ownerChanged(const QString &suffix, const QString &owner);
+    void reported(MprisPlayer &player, const MprisPlayer::Change &change);
+    void electAgain();
+    void announce(const News &news);
+    void post();
+    QVariantMap infoOf(const MprisPlayer &player) const;
+    Q_SLOT void disconnected();
+
+    RunLoop &runLoop_;
+    NotificationCenter &notificationCenter_;
+    QDBusConnection bus_;
+    Complaints complaints_;
+    ArtworkLoader artwork_;
+    bool isRegistered_ = false;
+    News news_;
+    Instant lastPost_{};
+    Task nextPost_;
+    std::vector<std::unique_ptr<MprisPlayer>> players_; // in the order in which they came
+    MprisPlayer *elected_ = nullptr;
+    std::unique_ptr<MprisPlayers> names_;
+    Owner owner_;
+};
+
+} // namespace quillmere
