@@ -13,10 +13,10 @@ struct Candidate {
     QString name; ///< on the bus, without the beginning common to all players
     QString bundleIdentifier;
     qint64 process = 0; ///< 0 if unknown
-    std::optional<qint64> browser;
+    std::optional<qint64> browser{};
     PlayerStatus status = PlayerStatus::Unknown;
     bool hasTitle = false;
-    std::optional<Instant> began; ///< to play, the last time
+    std::optional<Instant> began{}; ///< to play, the last time
 };
 
 /// Which of the players, in the order in which they came, is the one people mean: one with
