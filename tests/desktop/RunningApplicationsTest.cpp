@@ -1,5 +1,6 @@
 #include "platform/linux/window/X11RunningApplications.h"
 
+#include "support/X11Inspector.h"
 #include "support/XServer.h"
 
 #include <QCoreApplication>
@@ -24,14 +25,6 @@ bool eventually(Condition condition)
     return true;
 }
 
-/// A real program with a window of this class.
-ChildProgram openWindow(const QString &className)
-{
-    return {u"mpv"_s,
-            {u"--no-config"_s, u"--no-terminal"_s, u"--idle"_s, u"--force-window"_s, u"--vo=x11"_s,
-             u"--ao=null"_s, u"--x11-name="_s + className}};
-}
-
 TEST(RunningApplicationsTest, FollowTheWindowsOfADesktop)
 {
     XServer server;
@@ -52,18 +45,24 @@ TEST(RunningApplicationsTest, FollowTheWindowsOfADesktop)
     const QString chrome = u"com.google.Chrome"_s;
 
     ChildProgram windowManager(u"openbox"_s, {u"--config-file"_s, u"/dev/null"_s});
-    auto browser = openWindow(u"Google-chrome"_s);
+    X11Inspector desktop;
+    ASSERT_TRUE(eventually(
+        [&] { return !desktop.property(desktop.root(), "_NET_SUPPORTING_WM_CHECK").empty(); }));
+    const auto open = [&desktop](const char *className) {
+        return desktop.openWindow({0, 0, 300, 200}, false, true, className);
+    };
+    const auto browser = open("Google-chrome");
     EXPECT_TRUE(are({chrome}, chrome));
     const int before = changes;
-    auto player = openWindow(u"Some.Player"_s);
+    const auto player = open("Some.Player");
     EXPECT_TRUE(are({chrome, u"some.player"_s}, u"some.player"_s));
     EXPECT_LE(changes - before, 3); // came, was recognised, was activated
-    auto second = openWindow(u"chromium"_s);
+    const auto second = open("chromium");
     EXPECT_TRUE(are({chrome, u"some.player"_s}, chrome));
-    second.kill();
-    player.kill();
+    desktop.closeWindow(second);
+    desktop.closeWindow(player);
     EXPECT_TRUE(are({chrome}, chrome));
-    browser.kill();
+    desktop.closeWindow(browser);
     EXPECT_TRUE(are({}, {}));
     server.kill();
     EXPECT_TRUE(eventually([&] { return !observer.connection().isOpen(); }));

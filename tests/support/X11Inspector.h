@@ -110,7 +110,8 @@ public:
     }
 
     /// A window of another program, mapped. An unmanaged one goes in front of all others.
-    xcb_window_t openWindow(const QRect &area, bool fullscreen = false, bool managed = true)
+    xcb_window_t openWindow(const QRect &area, bool fullscreen = false, bool managed = true,
+                            const QByteArray &className = {})
     {
         const std::uint32_t unmanaged = managed ? 0 : 1;
         const auto window = xcb_generate_id(connection_);
@@ -127,6 +128,12 @@ public:
             const auto state = atom("_NET_WM_STATE_FULLSCREEN");
             xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window, atom("_NET_WM_STATE"),
                                 XCB_ATOM_ATOM, 32, 1, &state);
+        }
+        if (!className.isEmpty()) {
+            const QByteArray names = QByteArray("instance") + '\0' + className + '\0';
+            xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS,
+                                XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(names.size()),
+                                names.constData());
         }
         xcb_map_window(connection_, window);
         xcb_flush(connection_);
