@@ -6,6 +6,7 @@
 #include "app/FileDragWatcher.h"
 #include "app/FileDrop.h"
 #include "app/FileTray.h"
+#include "app/MediaPlayback.h"
 #include "app/StatusMenu.h"
 #include "app/UpdateHUD.h"
 #include "app/Updater.h"
@@ -65,6 +66,7 @@ void AppDelegate::applicationDidFinishLaunching()
     createMonitors();
     createFileDragWatcher();
     subscribeToSettings();
+    media_->start();
     screenParametersObserver_ =
         platform_.screens.onParametersChanged([this] { floatingPanel_->displaysDidChange(); });
 }
@@ -90,7 +92,7 @@ void AppDelegate::createStatusItem()
 {
     const StatusMenuActions actions{
         .showIsland = [this] { showIsland(); },
-        .refreshNowPlaying = [] {},
+        .refreshNowPlaying = [this] { refreshNowPlaying(); },
         .checkForUpdates = [this] { checkForUpdates(); },
         .openSettings = [this] { platform_.notificationCenter.post(events::openSettingsRequest); },
         .quit = [this] { terminate(); }};
@@ -119,8 +121,9 @@ void AppDelegate::createIsland()
     outputPicker_ =
         std::make_unique<AudioOutputPicker>(platform_.audioHardware, platform_.notificationCenter);
     fileTray_ = std::make_unique<FileTray>(settings_);
+    media_ = std::make_unique<MediaPlayback>(platform_, settings_, hudManager_, debugLogger_);
     if (onIslandCreated)
-        onIslandCreated({*floatingPanel_, *contentView_, *outputPicker_, *fileTray_});
+        onIslandCreated({*floatingPanel_, *contentView_, *outputPicker_, *fileTray_, *media_});
     floatingPanel_->displaysDidChange();
 }
 
@@ -259,6 +262,12 @@ void AppDelegate::checkForUpdates()
         updaterController_->checkForUpdates();
 }
 
+void AppDelegate::refreshNowPlaying()
+{
+    if (media_)
+        media_->refresh();
+}
+
 void AppDelegate::islandDragChanged(bool over)
 {
     if (fileDragWatcher_)
@@ -292,6 +301,8 @@ void AppDelegate::applicationWillTerminate()
         outputPicker_->stop();
     outputAvailability_.cancel();
     soundServerChanged(false);
+    if (media_)
+        media_->stop();
     hideFromScreenCaptureCancellable_.cancel();
     hideInMissionControlCancellable_.cancel();
     updaterController_.reset();

@@ -24,6 +24,7 @@ class FloatingPanel;
 class HUDManager;
 class IslandDebugLogger;
 class IslandGestures;
+class MediaPlayback;
 class SettingsStore;
 class Updater;
 class VolumeMonitor;
@@ -35,6 +36,7 @@ struct Island {
     ContentView &contentView;
     AudioOutputPicker &outputPicker;
     FileTray &fileTray;
+    MediaPlayback &media;
 };
 
 /// The start-up and shutdown spine: creates every long-lived object in a fixed order, connects the
@@ -56,6 +58,9 @@ public:
     /// Looks for a newer version now and shows the outcome.
     void checkForUpdates();
 
+    /// Asks the players now, without waiting for the next second.
+    void refreshNowPlaying();
+
     /// What a drag over the island itself does; a drop posts "QuillmereFileDropped".
     void islandDragChanged(bool over);
     void filesDroppedOnIsland(const QList<QUrl> &files);
@@ -64,6 +69,7 @@ public:
     void terminate();
 
     /// Null before launch.
+    MediaPlayback *media() const { return media_.get(); }
     FloatingPanel *floatingPanel() const { return floatingPanel_.get(); }
     ContentView *contentView() const { return contentView_.get(); }
 
@@ -106,6 +112,7 @@ private:
     std::unique_ptr<BrightnessMonitor> brightnessMonitor_;
     std::unique_ptr<AudioOutputMonitor> audioOutputMonitor_;
     std::unique_ptr<DeviceHUD> deviceHUD_;
+    std::unique_ptr<MediaPlayback> media_;
     std::unique_ptr<Updater> updaterController_;
     Task audioAvailability_;
     Task outputAvailability_;

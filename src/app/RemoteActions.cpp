@@ -2,12 +2,25 @@
 
 #include "app/AppDelegate.h"
 #include "app/AppEvents.h"
+#include "app/MediaPlayback.h"
 #include "platform/NotificationCenter.h"
 #include "platform/RemoteControl.h"
 
 #include <QDebug>
 
 namespace quillmere {
+
+namespace {
+
+std::function<void()> onMedia(AppDelegate &delegate, void (MediaPlayback::*command)())
+{
+    return [&delegate, command] {
+        if (auto *media = delegate.media())
+            (media->*command)();
+    };
+}
+
+} // namespace
 
 RemoteActions::RemoteActions(RemoteControl &remoteControl, NotificationCenter &notificationCenter,
                              AppDelegate &delegate)
@@ -16,6 +29,10 @@ RemoteActions::RemoteActions(RemoteControl &remoteControl, NotificationCenter &n
           {QStringLiteral("show-island"), [&delegate] { delegate.showIsland(); }},
           {QStringLiteral("toggle-island"),
            [&notificationCenter] { notificationCenter.post(events::islandTapped); }},
+          {QStringLiteral("refresh-now-playing"), [&delegate] { delegate.refreshNowPlaying(); }},
+          {QStringLiteral("play-pause"), onMedia(delegate, &MediaPlayback::togglePlayPause)},
+          {QStringLiteral("next-track"), onMedia(delegate, &MediaPlayback::nextTrack)},
+          {QStringLiteral("previous-track"), onMedia(delegate, &MediaPlayback::previousTrack)},
           {QStringLiteral("check-for-updates"), [&delegate] { delegate.checkForUpdates(); }},
           {QStringLiteral("settings"),
            [&notificationCenter] { notificationCenter.post(events::openSettingsRequest); }},

@@ -1,5 +1,6 @@
 #include "app/AppEvents.h"
 #include "app/FileTray.h"
+#include "app/MediaPlayback.h"
 #include "app/QuillmereApp.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
@@ -15,6 +16,7 @@
 #include "support/FakeHaptics.h"
 #include "support/FakeHttpClient.h"
 #include "support/FakeLoginItem.h"
+#include "support/FakeMedia.h"
 #include "support/FakePanelWindow.h"
 #include "support/FakeScreens.h"
 #include "support/FakeStatusItem.h"
@@ -94,10 +96,15 @@ protected:
     FakeAppearance appearance;
     FakeStatusItem statusItem;
     FakeHttpClient http;
-    Platform platform{runLoop,    notifications, defaults, local,        cloud,
-                      loginItem,  screens,       window,   globalEvents, dragPasteboard,
-                      audio,      batteries,     display,  haptics,      appearance,
-                      statusItem, http,          state,    remote};
+    FakeRunningApplications applications;
+    FakeAudioStreams streams{runLoop};
+    FakeScriptRunner scripts;
+    FakeMediaRemote mediaRemote;
+    Platform platform{runLoop,      notifications, defaults,   local,        cloud,
+                      loginItem,    screens,       window,     globalEvents, dragPasteboard,
+                      applications, audio,         streams,    batteries,    display,
+                      haptics,      appearance,    statusItem, http,         scripts,
+                      mediaRemote,  state,         remote};
     QTemporaryDir library;
     AudioDeviceID speakers = 0;
     int terminations = 0;
@@ -120,6 +127,36 @@ TEST_F(AppDelegateTest, AVolumeChangeBecomesAHUDForItsDuration)
     EXPECT_FALSE(showsHUD());
     EXPECT_TRUE(state.hud().isEmpty());
     EXPECT_EQ(state.values.value(QStringLiteral("Frame")).toRect(), QRect(437, 0, 126, 32));
+}
+
+TEST_F(AppDelegateTest, WhatPlaysIsPublishedAndTakesCommands)
+{
+    mediaRemote.info = {{mediaInfo::title, QStringLiteral("A Song")},
+                        {mediaInfo::duration, 200.0},
+                        {mediaInfo::elapsedTime, 50.0},
+                        {mediaInfo::playbackRate, 1.0}};
+    launch(900ms);
+    mediaRemote.answer();
+    const auto track = [this] { return state.values.value(QStringLiteral("NowPlaying")).toMap(); };
+    EXPECT_EQ(track().value(QStringLiteral("title")), QStringLiteral("A Song"));
+    EXPECT_EQ(track().value(QStringLiteral("isPlaying")), true);
+
+    const auto act = [this](const char *action) {
+        return remote.requests.activateAction(QString::fromLatin1(action), {});
+    };
+    EXPECT_TRUE(act("next-track") && act("previous-track") && act("play-pause"));
+    EXPECT_EQ(mediaRemote.commands, (std::vector{4, 5, 2}));
+    EXPECT_EQ(track().value(QStringLiteral("isPlaying")), false); // before the player says so
+    EXPECT_EQ(track().value(QStringLiteral("mediaElapsed")), QStringLiteral("0:50"));
+    app->appDelegate().media()->seek(0.25);
+    EXPECT_EQ(mediaRemote.positions, std::vector{50.0});
+
+    const int queries = mediaRemote.queries;
+    EXPECT_TRUE(act("refresh-now-playing"));
+    EXPECT_EQ(mediaRemote.queries, queries + 1);
+    app->terminate();
+    runLoop.advance(10s);
+    EXPECT_EQ(mediaRemote.queries, queries + 1);
 }
 
 TEST_F(AppDelegateTest, EachGateSilencesTheVolumeHUDWithoutARestart)

@@ -14,10 +14,20 @@ QDBusConnection sessionBus(const DBusService &bus)
     return bus.connection().value_or(QDBusConnection(QString()));
 }
 
+QString helperFolder()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../libexec/quillmere");
+}
+
 LinuxDisplayBrightness::Places displayPlaces()
 {
-    return {.ddcHelper = QCoreApplication::applicationDirPath() +
-                         QStringLiteral("/../libexec/quillmere/ddc-brightness")};
+    return {.ddcHelper = helperFolder() + QStringLiteral("/ddc-brightness")};
+}
+
+ProcessScriptRunner::Places scriptPlaces()
+{
+    return {.replacements = xdg::configHome() + QStringLiteral("/quillmere/scripts"),
+            .builtIn = helperFolder()};
 }
 
 } // namespace
@@ -30,6 +40,7 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
     , loginItem_(runLoop, xdg::configHome(), QCoreApplication::applicationFilePath())
     , windowSystem_(makeWindowSystem(panelWindow))
     , audioHardware_(runLoop)
+    , audioStreams_(runLoop, audioHardware_)
     , bluetoothBatteries_(runLoop)
     , displayBrightness_(runLoop, displayPlaces())
     , haptics_(sessionBus(bus))
@@ -37,6 +48,8 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
                   DesktopAppearance::kdeGlobalsOfSession(xdg::configHome()))
     , statusItem_(runLoop, bus.connection(), std::move(drawIcon))
     , httpClient_(runLoop)
+    , scriptRunner_(runLoop, scriptPlaces())
+    , mediaRemote_(runLoop, notificationCenter_, httpClient_, sessionBus(bus))
     , services_{runLoop,
                 notificationCenter_,
                 userDefaults_,
@@ -47,13 +60,17 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
                 windowSystem_->panelWindow(),
                 windowSystem_->globalEvents(),
                 windowSystem_->dragPasteboard(),
+                windowSystem_->runningApplications(),
                 audioHardware_,
+                audioStreams_,
                 bluetoothBatteries_,
                 displayBrightness_,
                 haptics_,
                 appearance_,
                 statusItem_,
                 httpClient_,
+                scriptRunner_,
+                mediaRemote_,
                 bus.statePublisher(),
                 bus.remoteControl()}
 {

@@ -6,12 +6,15 @@
 #include "platform/linux/appearance/DesktopAppearance.h"
 #include "platform/linux/appearance/FeedbackdHaptics.h"
 #include "platform/linux/audio/PulseAudioHardware.h"
+#include "platform/linux/audio/PulseAudioStreams.h"
 #include "platform/linux/bluetooth/BusBluetoothBatteries.h"
 #include "platform/linux/desktop/AutostartLoginItem.h"
 #include "platform/linux/desktop/FileUserDefaults.h"
 #include "platform/linux/desktop/FolderCloudStore.h"
 #include "platform/linux/display/LinuxDisplayBrightness.h"
+#include "platform/linux/media/MprisMediaRemote.h"
 #include "platform/linux/net/QtHttpClient.h"
+#include "platform/linux/scripts/ProcessScriptRunner.h"
 #include "platform/linux/tray/TrayStatusItem.h"
 
 namespace quillmere {
@@ -40,12 +43,15 @@ private:
     AutostartLoginItem loginItem_;
     std::unique_ptr<WindowSystem> windowSystem_;
     PulseAudioHardware audioHardware_;
+    PulseAudioStreams audioStreams_;
     BusBluetoothBatteries bluetoothBatteries_;
     LinuxDisplayBrightness displayBrightness_;
     FeedbackdHaptics haptics_;
     DesktopAppearance appearance_;
     TrayStatusItem statusItem_;
     QtHttpClient httpClient_;
+    ProcessScriptRunner scriptRunner_;
+    MprisMediaRemote mediaRemote_;
     Platform services_;
 };
 

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "nowplaying/NowPlayingArtworkService.h"
+#include "nowplaying/NowPlayingPoller.h"
+
+namespace quillmere {
+
+class HUDManager;
+class IslandDebugLogger;
+class SettingsStore;
+struct Platform;
+
+/// What plays, and the user's hand on it. Commands without a player to take them do nothing. Main
+/// thread only.
+class MediaPlayback
+{
+public:
+    MediaPlayback(Platform &platform, SettingsStore &settings, HUDManager &hudManager,
+                  IslandDebugLogger &logger);
+
+    void start() { poller_.start(); }
+    void stop() { poller_.stop(); }
+
+    /// Asks the players now.
+    void refresh() { poller_.poll(); }
+
+    /// The playhead stops at once; that the player did follows with its next answer.
+    void togglePlayPause();
+    void nextTrack();
+    void previousTrack();
+
+    /// 0..1 of the track.
+    void seek(double fraction);
+
+private:
+    HUDManager &hudManager_;
+    NowPlayingArtworkService service_;
+    NowPlayingPoller poller_;
+};
+
+} // namespace quillmere
