@@ -47,8 +47,8 @@ PulseAudioStreams::~PulseAudioStreams()
 void PulseAudioStreams::isPlaying(const QString &bundleIdentifier, const Owner &owner,
                                   std::function<void(bool)> done)
 {
-    Question &question =
-        questions_.emplace_back(*this, bundleIdentifier, owner.reference(), std::move(done));
+    Question &question = questions_.emplace_back(
+        Question{*this, bundleIdentifier, owner.reference(), std::move(done)});
     if (pa_context *context = hardware_.context())
         question.operation = pa_context_get_sink_input_info_list(context, takeStream, &question);
     if (!question.operation)

@@ -88,7 +88,7 @@ Task ProcessScriptRunner::run(QLatin1StringView question, const QStringList &arg
 QString ProcessScriptRunner::State::programFor(const QString &question)
 {
     for (const QString &folder : {places.replacements, places.builtIn}) {
-        const QString program = folder + u'/' + question;
+        QString program = folder + u'/' + question;
         const QFileInfo info(program);
         if (!info.isFile())
             continue;
