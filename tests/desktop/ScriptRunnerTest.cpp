@@ -21,9 +21,7 @@ namespace {
 
 /// Real programs, in an empty folder of the user's and one of ours; only their time limit is the
 /// test's to spend.
-class ScriptRunnerTest : public RealFiles
-{
-protected:
+struct ScriptRunnerTest : RealFiles {
     ScriptRunnerTest()
     {
         QDir(directory.path()).mkdir(u"user"_s);
