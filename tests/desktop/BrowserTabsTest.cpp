@@ -197,7 +197,7 @@ TEST_F(BrowserTabsTest, ListsTheTabsOfADevToolsPort)
         {ok + "Transfer-Encoding: chunked\r\n\r\n" + targets, ""},
         {"HTTP/1.1 404 Not Found\r\n\r\n" + targets, ""},
         {ok + "\r\n<html>", ""},
-        {ok + "\r\n" + QByteArray(9 * 1024 * 1024, ' ') + targets, ""},
+        {ok + "\r\n" + QByteArray(9LL * 1024 * 1024, ' ') + targets, ""},
         {ok + "X: " + QByteArray(20000, 'x') + "\r\n\r\n" + targets, ""},
         {"", ""},
     };
