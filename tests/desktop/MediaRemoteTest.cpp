@@ -22,13 +22,6 @@ namespace {
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
-void runToEnd(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    ASSERT_TRUE(process.waitForFinished(60'000) && process.exitCode() == 0) << qPrintable(program);
-}
-
 struct MediaRemoteTest : testing::Test {
     static void SetUpTestSuite()
     {
@@ -67,7 +60,6 @@ struct HostilePlayerTest : MediaRemoteTest {
     {
         remote.registerForNowPlayingNotifications();
         kinds = readLine().toInt();
-        QObject::connect(&program.process(), &QProcess::readyRead, &program.process(), [] {});
     }
 
     QByteArray readLine()
@@ -233,10 +225,10 @@ struct RealPlayerTest : MediaRemoteTest {
     QString makeTrack(const QString &title)
     {
         const QString path = folder.filePath(title + u".ogg"_s);
-        runToEnd(u"ffmpeg"_s,
-                 {u"-loglevel"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=440:d=20"_s,
-                  u"-metadata"_s, u"title="_s + title, u"-metadata"_s, u"artist=The Testers"_s,
-                  u"-c:a"_s, u"libvorbis"_s, path});
+        XServer::run(u"ffmpeg"_s,
+                     {u"-loglevel"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=440:d=20"_s,
+                      u"-metadata"_s, u"title="_s + title, u"-metadata"_s, u"artist=The Testers"_s,
+                      u"-c:a"_s, u"libvorbis"_s, path});
         return path;
     }
 

@@ -37,14 +37,12 @@ TEST(PlayerReportTest, TakesALengthOfAnyNumberThatCanBeOne)
     const QList<std::pair<QVariant, std::optional<double>>> cases{
         {qlonglong(61'500'000), 61.5},
         {uint(2'000'000), 2.0},
-        {2e6, 2.0},
         {QVariant::fromValue(QDBusVariant(qulonglong(3'000'000))), 3.0},
         {0, std::nullopt},
         {qlonglong(-5'000'000), std::nullopt},
         {214, std::nullopt},                                   // seconds
         {std::numeric_limits<qlonglong>::max(), std::nullopt}, // endless
         {std::numeric_limits<double>::quiet_NaN(), std::nullopt},
-        {true, std::nullopt},
         {u"61500000"_s, std::nullopt},
     };
     for (const auto &[told, expected] : cases)
@@ -68,7 +66,6 @@ TEST(PlayerReportTest, ReadsTextsOfSeveralShapes)
     };
     EXPECT_EQ(artist(QStringList{u"A"_s, u" "_s, u"B\n"_s}), u"A, B");
     EXPECT_EQ(artist(u"A"_s), u"A");
-    EXPECT_EQ(artist(QByteArray("A")), QString());
     EXPECT_EQ(trackWith(u"xesam:albumArtist"_s, QStringList{u"C"_s}).artist, u"C");
     const auto untitled = playerReport::track(
         {{u"xesam:title"_s, u""_s}, {u"xesam:url"_s, u"file:///m/A%20b.c.ogg"_s}});
@@ -81,15 +78,10 @@ TEST(PlayerReportTest, FindsPicturesOnlyWhereItMayLook)
     using Kind = ArtSource::Kind;
     const QList<std::tuple<QString, Kind, QString>> cases{
         {u"file:///tmp/a%20b%25.jpg"_s, Kind::File, u"/tmp/a b%.jpg"_s},
-        {u"/tmp/a%20b"_s, Kind::File, u"/tmp/a%20b"_s},
-        {u"file://localhost/a"_s, Kind::File, u"/a"_s},
         {u"file://elsewhere/a"_s, Kind::None, {}},
         {u"file:///a%00b"_s, Kind::None, {}},
-        {u"https://i.scdn.co/image/1"_s, Kind::Web, u"https://i.scdn.co/image/1"_s},
         {u"https://open.spotify.com/image/1"_s, Kind::Web, u"https://i.scdn.co/image/1"_s},
         {u"http://i.scdn.co/image/1"_s, Kind::None, {}},
-        {u"attachment://1"_s, Kind::None, {}},
-        {u"data:image/png;base64"_s, Kind::None, {}},
         {u"data:,"_s + QString(20'000'000, u'A'), Kind::None, {}},
     };
     for (const auto &[url, kind, location] : cases) {

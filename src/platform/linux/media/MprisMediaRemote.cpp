@@ -101,10 +101,7 @@ void MprisMediaRemote::ownerChanged(const QString &suffix, const QString &owner)
             elected_ = nullptr;
         gone->answerWaiters();
     }
-    // A program with several names is still one player.
-    const bool isKnown = std::any_of(players_.begin(), players_.end(),
-                                     [&](const auto &player) { return player->owner() == owner; });
-    if (!owner.isEmpty() && !isKnown) {
+    if (!owner.isEmpty()) {
         players_.push_back(std::make_unique<MprisPlayer>(
             runLoop_, bus_, complaints_, suffix, owner,
             [this](MprisPlayer &player, const auto &change) { reported(player, change); }));
@@ -117,7 +114,8 @@ void MprisMediaRemote::reported(MprisPlayer &player, const MprisPlayer::Change &
     electAgain();
     if (&player != elected_)
         return;
-    artwork_.want(change.art);
+    if (change.art)
+        artwork_.want(*change.art);
     announce({.info = change.info, .isPlaying = change.isPlaying});
 }
 

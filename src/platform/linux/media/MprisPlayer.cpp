@@ -25,6 +25,7 @@ constexpr Duration lengthSpacing = 3s;
 constexpr int mostRetries = 5;
 constexpr Duration firstRetry = 1s;
 
+constexpr double farthestSeek = 1e7; // s
 constexpr double microseconds = 1e6;
 
 bool differs(const Track &one, const Track &other)
@@ -92,7 +93,7 @@ void MprisPlayer::askWhoItIs()
                     const auto application = playerReport::application(*properties);
                     bundleIdentifier_ = playerReport::bundleIdentifier(application, suffix_);
                     if (isKnown_)
-                        onReport_(*this, {.info = true, .art = track_.art});
+                        onReport_(*this, {.info = true});
                 });
     auto process = QDBusMessage::createMethodCall(bus::daemonName, bus::daemonPath, bus::daemonName,
                                                   QStringLiteral("GetConnectionUnixProcessID"));
@@ -221,7 +222,7 @@ void MprisPlayer::announceSeek()
     if (!seekNews_)
         seekNews_ = runLoop_.after(seekSpacing, [this] {
             seekNews_.cancel();
-            onReport_(*this, {.info = true, .art = track_.art});
+            onReport_(*this, {.info = true});
         });
 }
 
@@ -255,7 +256,7 @@ void MprisPlayer::send(const char *method)
 
 void MprisPlayer::seekTo(double seconds)
 {
-    const double wanted = std::clamp(seconds, 0.0, track_.duration.value_or(seconds));
+    const double wanted = std::clamp(seconds, 0.0, track_.duration.value_or(farthestSeek));
     const bool isAbsolute = canSeek_ && !track_.path.isEmpty();
     auto message = command(isAbsolute ? QStringLiteral("SetPosition") : QStringLiteral("Seek"));
     if (isAbsolute)

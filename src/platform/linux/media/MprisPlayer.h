@@ -26,7 +26,7 @@ public:
     struct Change {
         bool info = false;
         bool isPlaying = false;
-        ArtSource art{}; ///< as told; data comes along only here
+        std::optional<ArtSource> art{}; ///< as just told; data comes along only here
     };
 
     /// `owner` is the unique name, `suffix` the well-known one without the common beginning.
@@ -36,7 +36,6 @@ public:
 
     /// It has answered at least once.
     bool isKnown() const { return isKnown_; }
-    const QString &owner() const { return busOwner_; }
     const QString &suffix() const { return suffix_; }
     const QString &bundleIdentifier() const { return bundleIdentifier_; }
     const Track &track() const { return track_; }
