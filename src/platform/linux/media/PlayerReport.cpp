@@ -257,7 +257,7 @@ QString bundleIdentifier(const PlayerApplication &application, const QString &su
     if (!entry.isEmpty())
         return canonicalBundleIdentifier(entry);
     // Browsers of one family share their bus name; what they call themselves tells them apart.
-    const QString known = canonicalBundleIdentifier(application.identity);
+    QString known = canonicalBundleIdentifier(application.identity);
     if (known != application.identity)
         return known;
     return canonicalBundleIdentifier(cleanText(suffix.section(u'.', 0, 0)));
