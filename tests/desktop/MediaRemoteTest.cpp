@@ -224,7 +224,7 @@ struct RealPlayerTest : MediaRemoteTest {
 
     QString makeTrack(const QString &title)
     {
-        const QString path = folder.filePath(title + u".ogg"_s);
+        QString path = folder.filePath(title + u".ogg"_s);
         XServer::run(u"ffmpeg"_s,
                      {u"-loglevel"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=440:d=20"_s,
                       u"-metadata"_s, u"title="_s + title, u"-metadata"_s, u"artist=The Testers"_s,
