@@ -10,12 +10,14 @@ set(layer_settings   platform events)
 set(layer_island     log settings platform events)
 set(layer_monitors   log settings platform events)
 set(layer_nowplaying island log settings platform events)
-set(layer_app        nowplaying island monitors log settings platform events)
-set(layer_views      app island log settings platform events)
+set(layer_claude     log platform)
+set(layer_app        nowplaying island monitors claude log settings platform events)
+set(layer_views      app island claude log settings platform events)
 set(layer_linux      platform events)
 
 # What a layer of logic may take from outside: no bus, no widgets, no scene graph.
 set(outside_logic    Qt6::Core Qt6::Gui tl::expected)
+set(outside_claude   ${outside_logic} nlohmann_json::nlohmann_json)
 set(outside_views    Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick Qt6::Svg tl::expected)
 set(outside_linux    Qt6::Core Qt6::Gui Qt6::GuiPrivate Qt6::DBus Qt6::Network tl::expected nlohmann_json::nlohmann_json
                      PkgConfig::PULSE PkgConfig::WAYLAND PkgConfig::XCB PkgConfig::UDEV
@@ -28,7 +30,7 @@ function(quillmere_library target)
   list(TRANSFORM arg_SOURCES PREPEND ${folder}/)
   list(TRANSFORM arg_HEADERS PREPEND ${folder}/)
 
-  if(arg_LAYER MATCHES "^(views|linux)$")
+  if(DEFINED outside_${arg_LAYER})
     set(outside ${outside_${arg_LAYER}})
   else()
     set(outside ${outside_logic})
