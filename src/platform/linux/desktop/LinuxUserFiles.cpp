@@ -52,24 +52,42 @@ bool isAsBefore(const QByteArray &path, const FileSnapshot &before)
     return now.state == files::Contents::State::Readable && now.bytes == before.bytes;
 }
 
-/// By a swap, an edit of the last moment comes out under the sibling's name, and goes back.
+ino_t fileNumber(const QByteArray &path)
+{
+    struct stat status = {};
+    return ::stat(path.constData(), &status) == 0 ? status.st_ino : 0;
+}
+
+/// Gives the place back to the edit that has the sibling's name, unless an even later one is there:
+/// then it is that one's.
+tl::expected<Outcome, QString> giveBack(SiblingFile &sibling, ino_t ours)
+{
+    for (ino_t comesOut = ours;;) {
+        const auto edit = fileNumber(sibling.path());
+        if (const int error = sibling.swapPlaces(); error != 0) {
+            sibling.keep(); // it is the user's
+            return failed(error);
+        }
+        if (fileNumber(sibling.path()) == comesOut)
+            return Outcome::Changed;
+        comesOut = edit;
+    }
+}
+
+/// By a swap, an edit of the last moment comes out under the sibling's name and can go back.
 tl::expected<Outcome, QString> takePlaceOf(const QByteArray &target, SiblingFile &sibling,
                                            const FileSnapshot &before)
 {
     if (!isAsBefore(target, before))
         return Outcome::Changed;
+    const auto ours = fileNumber(sibling.path());
     int error = sibling.swapPlaces();
     if (error == ENOENT)
         return Outcome::Changed;
     if (error == 0 && isAsBefore(sibling.path(), before))
         return Outcome::Replaced;
-    if (error == 0) {
-        error = sibling.swapPlaces();
-        if (error == 0)
-            return Outcome::Changed;
-        sibling.keep(); // it is the user's
-        return failed(error);
-    }
+    if (error == 0)
+        return giveBack(sibling, ours);
     if (error == EINVAL || error == ENOSYS)
         error = sibling.takePlace();
     if (error != 0)
