@@ -25,6 +25,14 @@ using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// What this thread has worked so far; time it was not given by a busy machine does not count.
+Duration busyTime()
+{
+    timespec time = {};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
 class MessageSocketServerTest : public testing::Test
 {
 protected:
@@ -113,10 +121,10 @@ TEST_F(MessageSocketServerTest, FiftyClientsLoseNothingAndKeepTheirOrder)
     constexpr int each = 200;
     listen();
     Duration longest{};
-    Instant last = loop.now();
+    Duration last = busyTime();
     const Task heartbeat = loop.every(1ms, 0ms, [&] {
-        longest = std::max(longest, loop.now() - last);
-        last = loop.now();
+        const auto now = busyTime();
+        longest = std::max(longest, now - std::exchange(last, now));
     });
     std::vector<std::thread> threads;
     for (int client = 0; client < clients; ++client)
@@ -135,11 +143,15 @@ TEST_F(MessageSocketServerTest, FiftyClientsLoseNothingAndKeepTheirOrder)
         ASSERT_EQ(words[1].toInt(), next[words[0].toInt()]++) << "client " << words[0].toInt();
     }
     EXPECT_THAT(next, testing::Each(testing::Pair(testing::_, each)));
-    RecordProperty("longest_main_thread_gap_us", static_cast<int>(longest / 1us));
+    RecordProperty("longest_work_between_two_timers_us", static_cast<int>(longest / 1us));
 }
 
 TEST_F(MessageSocketServerTest, AThousandHungClientsKeepNobodyOut)
 {
+    rlimit files = {};
+    ::getrlimit(RLIMIT_NOFILE, &files);
+    files.rlim_cur = std::min<rlim_t>(files.rlim_max, 4'096);
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &files), 0); // both ends of a connection are ours here
     listen();
     const auto halfWay = connect();
     ASSERT_TRUE(write(halfWay, "half"));
