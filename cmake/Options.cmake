@@ -6,6 +6,11 @@ target_compile_definitions(quillmere_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
   QT_NO_FOREACH QT_USE_QSTRINGBUILDER
   QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(QUILLMERE_FUZZ)
+  set(QUILLMERE_SANITIZE ON)
+  target_compile_options(quillmere_options INTERFACE -fsanitize=fuzzer-no-link
+    -Wno-sign-conversion) # which g++ leaves out of -Wconversion
+endif()
 if(QUILLMERE_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_compile_options(quillmere_options INTERFACE ${sanitizers})
