@@ -117,8 +117,8 @@ TEST_F(MessageSocketServerTest, AssemblesPiecesAndIgnoresSilence)
 
 TEST_F(MessageSocketServerTest, FiftyClientsLoseNothingAndKeepTheirOrder)
 {
-    constexpr int clients = 50;
-    constexpr int each = 200;
+    constexpr std::size_t clients = 50;
+    constexpr std::size_t each = 200;
     listen();
     Duration longest{};
     Duration last = busyTime();
@@ -127,20 +127,21 @@ TEST_F(MessageSocketServerTest, FiftyClientsLoseNothingAndKeepTheirOrder)
         longest = std::max(longest, now - std::exchange(last, now));
     });
     std::vector<std::thread> threads;
-    for (int client = 0; client < clients; ++client)
+    threads.reserve(clients);
+    for (std::size_t client = 0; client < clients; ++client)
         threads.emplace_back([this, client] {
-            for (int i = 0; i < each; ++i) // some longer than one read
+            for (std::size_t i = 0; i < each; ++i) // some longer than one read
                 send(QByteArray::number(client) + ' ' + QByteArray::number(i) + ' ' +
-                     QByteArray(i % 50 == 0 ? 150'000 : i, 'x'));
+                     QByteArray(i % 50 == 0 ? 150'000 : qsizetype(i), 'x'));
         });
     const bool all = waitForMessages(clients * each);
     for (auto &thread : threads)
         thread.join();
     EXPECT_TRUE(all) << received.size();
-    std::map<int, int> next;
+    std::map<QByteArray, std::size_t> next;
     for (const auto &message : received) {
         const auto words = message.split(' ');
-        ASSERT_EQ(words[1].toInt(), next[words[0].toInt()]++) << "client " << words[0].toInt();
+        ASSERT_EQ(words[1].toULongLong(), next[words[0]]++) << "client " << words[0].constData();
     }
     EXPECT_THAT(next, testing::Each(testing::Pair(testing::_, each)));
     RecordProperty("longest_work_between_two_timers_us", static_cast<int>(longest / 1us));
