@@ -48,8 +48,7 @@ class HookTest(unittest.TestCase):
 
     def run_hook(self, data, script=None):
         """Feeds the hook as the assistant does, and expects it to keep its manners."""
-        text = data if isinstance(data, bytes) else json.dumps(data).encode()
-        result = subprocess.run([script or self.script], input=text, capture_output=True, timeout=10,
+        result = subprocess.run([script or self.script], input=json.dumps(data).encode(), capture_output=True, timeout=10,
                                 cwd=self.project, env={**os.environ, "PYTHONPATH": str(self.project)})
         self.assertEqual((result.returncode, result.stdout, result.stderr), (0, b"", b""))
 
@@ -116,13 +115,6 @@ class HookTest(unittest.TestCase):
                     continue
                 message = self.received()
                 self.assertEqual(message[keys.get(key, key)], value if expected is sent else expected)
-
-    def test_what_is_no_event_has_empty_values(self):
-        for data in (b"", b"not JSON", b"[]", b"{\"session_id\": \"\xff\"}", b"[" * 100_000):
-            with self.subTest(data[:20]):
-                self.run_hook(data)
-                message = self.received()
-                self.assertEqual((message["session_id"], message["event"], message["status"]), ("", "", "unknown"))
 
     def test_only_a_socket_of_ones_own_gets_anything(self):
         self.socket_path.rename(self.dir / "moved")
