@@ -13,6 +13,8 @@ namespace {
 
 using Json = nlohmann::json;
 
+constexpr std::size_t deepest = 1'000; // levels of nesting
+
 enum class Kind { RequiredText, Text, Object, Truth };
 
 enum Key { SessionId, Cwd, Event, Status, Tool, ToolUseId, UserPrompt, PermissionMode };
@@ -182,8 +184,7 @@ private:
             takeInput(nullptr);
         else if ((depth_ > 0 || !isObject) && !takeOther(false))
             return false;
-        ++depth_;
-        return true;
+        return ++depth_ <= deepest || refuse(QStringLiteral("nested too deeply"));
     }
 
     bool close()

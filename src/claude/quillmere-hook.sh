@@ -15,7 +15,7 @@ SOCKET="@SOCKET_PATH@"
 # Python gets the event as data and the text below as its only code. Isolated: no file in the
 # project's directory and no variable of its environment becomes code.
 { printf '%s' "$INPUT" | python3 -I -S -c "$(cat <<'PYTHON'
-import json, os, re, socket, struct, sys
+import json, os, re, signal, socket, struct, sys
 
 try:
     event = json.loads(sys.stdin.buffer.read().decode("utf-8"))
@@ -68,8 +68,8 @@ if re.search(r"'''|'\Z|" + END_OF_LITERAL, prompt):
 message = json.dumps(dict(fields, user_prompt=prompt or None, interactive=True))
 try:
     with socket.socket(socket.AF_UNIX, socket.SOCK_STREAM) as quillmere:
-        # Five seconds for a Quillmere that is busy or stopped; after that the event is old news.
-        quillmere.setsockopt(socket.SOL_SOCKET, socket.SO_SNDTIMEO, struct.pack("ll", 5, 0))
+        # The end, were Quillmere too busy or stopped; in five seconds the event is old news.
+        signal.alarm(5)
         quillmere.connect(sys.argv[1])
         listener = quillmere.getsockopt(socket.SOL_SOCKET, socket.SO_PEERCRED, 12)
         if struct.unpack("3i", listener)[1] == os.geteuid():

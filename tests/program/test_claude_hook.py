@@ -91,20 +91,16 @@ class HookTest(unittest.TestCase):
         code = f"__import__('os').system('touch {self.canary}')"
         sent, dropped = object(), object()
         cases = [
-            ("prompt", "don't", sent), ("prompt", "'tis \"it\"", sent), ("prompt", "a''b", sent),
-            ("prompt", "two\nlines\n\n", "two\nlines"), ("prompt", "a\0b\n\0\n", "ab"),
+            ("prompt", "'tis a \"don't\", a''b", sent), ("prompt", "two\nlines\0\n\n", "two\nlines"),
             ("prompt", "C:\\new\\\\", sent), ("prompt", "שלום \u202e 👩‍👩‍👧 \x1b[31m", sent),
-            ("prompt", f"`touch {self.canary}` {run} ${{x}} %s {{}}", sent),
+            ("prompt", f"`touch {self.canary}` {run} ${{x}} %s", sent),
             ("prompt", "x" * 99 + "'y", dropped), ("prompt", "x" * 100 + "'''", "x" * 100),
-            ("prompt", "end'", dropped), ("prompt", "end'\n", dropped), ("prompt", "end\\", dropped),
-            ("prompt", "end\\\\\\", dropped), ("prompt", f"''' + {code} + '''", dropped),
-            ("prompt", "\ud800", None), ("prompt", ["'"], "[\"'\"]"), ("prompt", 7, None),
-            ("tool_name", "a\\b", sent), ("tool_name", f"x{run}", sent), ("tool_name", "it's", dropped),
-            ("tool_name", f"' + {code} + '", dropped), ("tool_name", "a\nb", dropped),
-            ("tool_name", "a\rb", dropped), ("tool_name", "a\\", dropped), ("tool_name", "a\n", "a"),
-            ("cwd", "/tmp/it's", dropped), ("cwd", f"/tmp/{run}\";'", dropped), ("cwd", f"/tmp/{run}", sent),
-            ("session_id", "\\", dropped), ("permission_mode", "'", dropped), ("tool_use_id", "\n'", dropped),
-            ("hook_event_name", "'", dropped),
+            ("prompt", "end'\n", dropped), ("prompt", "end\\\\\\", dropped),
+            ("prompt", f"''' + {code} + '''", dropped), ("prompt", "\ud800", None), ("prompt", 7, None),
+            ("tool_name", f"a\\b{run}", sent), ("tool_name", f"' + {code} + '", dropped),
+            ("tool_name", "a\rb", dropped), ("tool_name", "a\nb", dropped), ("tool_name", "a\n", "a"),
+            ("cwd", f"/tmp/{run}\";'", dropped), ("session_id", "\\", dropped),
+            ("permission_mode", "it's", dropped), ("hook_event_name", "'", dropped),
         ]
         keys = {"prompt": "user_prompt", "tool_name": "tool", "hook_event_name": "event"}
         for key, value, expected in cases:

@@ -244,6 +244,8 @@ TEST(HookEventTest, TakesWhatItKnowsAndRefusesTheWrongType)
          {R"(,"tool":3)", R"(,"tool_input":[])", R"(,"interactive":1)", R"(,"cwd":null)",
           R"(,"status":{})", ",\"a\":\"\xff\"", "} {", ",", R"(,"tool":)"})
         EXPECT_FALSE(decodeHookEvent('{' + base + more + '}')) << more;
+    EXPECT_EQ(decodeHookEvent('{' + base + ",\"x\":" + QByteArray(1'001, '[')).error(),
+              u"nested too deeply"_s);
     for (const QByteArray &whole : {QByteArray("[]"), QByteArray("7"), QByteArray(1'000'000, '[')})
         EXPECT_FALSE(decodeHookEvent(whole)) << whole.left(60).constData();
 }
