@@ -153,10 +153,10 @@ private:
         return takeOther(isNull);
     }
 
-    bool takeInput(AnyCodableValue value)
+    bool takeInput(const AnyCodableValue &value)
     {
         if (toolInput_->size() < mostToolInputs || toolInput_->contains(inputKey_))
-            toolInput_->insert(inputKey_, std::move(value));
+            toolInput_->insert(inputKey_, value);
         return true;
     }
 
