@@ -278,9 +278,15 @@ TEST_F(HookInstallerTest, NoEditIsLostInAStormOfThem)
 {
     write(settingsFile, R"({"n":0})");
     std::atomic<bool> done = false;
+    int lost = 0;
     std::thread editor([&] {
-        for (int n = 1; n <= 1'000; ++n)
+        for (int n = 1; n <= 1'000; ++n) {
             replace(settingsFile, QByteArray(R"({"n":%})").replace('%', QByteArray::number(n)));
+            int looks = 0; // for a moment the file before the edit may still be there
+            while (parse(read(settingsFile)).value("n", 0) != n && ++looks < 1'000) {
+            }
+            lost += looks == 1'000;
+        }
         done = true;
     });
     while (!done) {
@@ -289,6 +295,7 @@ TEST_F(HookInstallerTest, NoEditIsLostInAStormOfThem)
     }
     editor.join();
     install();
+    EXPECT_EQ(lost, 0);
     EXPECT_EQ(parse(read(settingsFile))["n"], 1'000);
     EXPECT_TRUE(isRegistered());
     EXPECT_THAT(claudeFiles(), SizeIs(1));
