@@ -10,6 +10,7 @@
 #include "app/StatusMenu.h"
 #include "app/UpdateHUD.h"
 #include "app/Updater.h"
+#include "claude/ClaudeCodeMonitor.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
@@ -23,6 +24,8 @@
 #include "platform/StatusItem.h"
 #include "platform/Symbols.h"
 #include "settings/SettingsStore.h"
+
+#include <QDir>
 
 namespace quillmere {
 
@@ -122,8 +125,12 @@ void AppDelegate::createIsland()
         std::make_unique<AudioOutputPicker>(platform_.audioHardware, platform_.notificationCenter);
     fileTray_ = std::make_unique<FileTray>(settings_);
     media_ = std::make_unique<MediaPlayback>(platform_, settings_, hudManager_, debugLogger_);
+    claudeCode_ = std::make_unique<ClaudeCodeMonitor>(
+        platform_.runLoop, debugLogger_, platform_.messageSocketServer, platform_.userFiles,
+        ClaudeCodeMonitor::Places{.home = QDir::homePath()});
     if (onIslandCreated)
-        onIslandCreated({*floatingPanel_, *contentView_, *outputPicker_, *fileTray_, *media_});
+        onIslandCreated(
+            {*floatingPanel_, *contentView_, *outputPicker_, *fileTray_, *media_, *claudeCode_});
     floatingPanel_->displaysDidChange();
 }
 
@@ -132,6 +139,7 @@ void AppDelegate::createMonitors()
     createVolumeMonitor();
     createBrightnessMonitor();
     createAudioOutputMonitor();
+    startClaudeCode();
 }
 
 void AppDelegate::createVolumeMonitor()
@@ -188,6 +196,12 @@ void AppDelegate::soundServerChanged(bool available)
     });
 }
 
+void AppDelegate::startClaudeCode()
+{
+    if (settings_.enableClaudeCode.get())
+        claudeCode_->start();
+}
+
 void AppDelegate::createFileDragWatcher()
 {
     fileDragWatcher_ = std::make_unique<FileDragWatcher>(platform_.runLoop, platform_.globalEvents,
@@ -207,6 +221,13 @@ void AppDelegate::subscribeToSettings()
     hideInMissionControlCancellable_ =
         subscribe(settings_, settings_.hideInMissionControl, this,
                   [this](bool hide) { floatingPanel_->applyHideInMissionControl(hide); });
+    enableClaudeCodeCancellable_ =
+        subscribe(settings_, settings_.enableClaudeCode, this, [this](bool enabled) {
+            if (enabled)
+                return claudeCode_->start();
+            claudeCode_->uninstallHooks();
+            claudeCode_->stop();
+        });
 }
 
 void AppDelegate::volumeChanged(double percent)
@@ -301,10 +322,13 @@ void AppDelegate::applicationWillTerminate()
         outputPicker_->stop();
     outputAvailability_.cancel();
     soundServerChanged(false);
+    if (claudeCode_)
+        claudeCode_->stop();
     if (media_)
         media_->stop();
     hideFromScreenCaptureCancellable_.cancel();
     hideInMissionControlCancellable_.cancel();
+    enableClaudeCodeCancellable_.cancel();
     updaterController_.reset();
     platform_.statusItem.remove();
 }

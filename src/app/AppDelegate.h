@@ -16,6 +16,7 @@ namespace quillmere {
 class AudioOutputMonitor;
 class AudioOutputPicker;
 class BrightnessMonitor;
+class ClaudeCodeMonitor;
 class ContentView;
 class DeviceHUD;
 class FileDragWatcher;
@@ -37,6 +38,7 @@ struct Island {
     AudioOutputPicker &outputPicker;
     FileTray &fileTray;
     MediaPlayback &media;
+    ClaudeCodeMonitor &claudeCode;
 };
 
 /// The start-up and shutdown spine: creates every long-lived object in a fixed order, connects the
@@ -70,6 +72,7 @@ public:
 
     /// Null before launch.
     MediaPlayback *media() const { return media_.get(); }
+    ClaudeCodeMonitor *claudeCode() const { return claudeCode_.get(); }
     FloatingPanel *floatingPanel() const { return floatingPanel_.get(); }
     ContentView *contentView() const { return contentView_.get(); }
 
@@ -86,6 +89,7 @@ private:
     void createVolumeMonitor();
     void createBrightnessMonitor();
     void createAudioOutputMonitor();
+    void startClaudeCode();
     void createFileDragWatcher();
     void subscribeToSettings();
     void volumeChanged(double percent);
@@ -113,6 +117,7 @@ private:
     std::unique_ptr<AudioOutputMonitor> audioOutputMonitor_;
     std::unique_ptr<DeviceHUD> deviceHUD_;
     std::unique_ptr<MediaPlayback> media_;
+    std::unique_ptr<ClaudeCodeMonitor> claudeCode_;
     std::unique_ptr<Updater> updaterController_;
     Task audioAvailability_;
     Task outputAvailability_;
@@ -120,6 +125,7 @@ private:
     Task fileDroppedObserver_;
     Task hideFromScreenCaptureCancellable_;
     Task hideInMissionControlCancellable_;
+    Task enableClaudeCodeCancellable_;
     Task screenParametersObserver_;
 };
 

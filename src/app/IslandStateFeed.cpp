@@ -1,5 +1,6 @@
 #include "app/IslandStateFeed.h"
 
+#include "claude/ClaudeCodeMonitor.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
@@ -48,8 +49,22 @@ QVariantMap hudFields(const HUDContent &hud)
     return map;
 }
 
+QVariantMap claudeCodeFields(const ClaudeCodeMonitor &monitor)
+{
+    QVariantMap map{{QStringLiteral("isActive"), monitor.isActive()},
+                    {QStringLiteral("status"), QString(claudeCodeStatusText(monitor.status()))}};
+    if (const auto &session = monitor.currentSession()) {
+        map.insert(QStringLiteral("sessionId"), session->sessionId);
+        map.insert(QStringLiteral("projectName"), session->projectName);
+        insertIfPresent(map, "currentTool", session->currentTool);
+        insertIfPresent(map, "lastPrompt", session->lastPrompt);
+    }
+    return map;
+}
+
 IslandStateFeed::IslandStateFeed(StatePublisher &publisher, HUDManager &hudManager,
-                                 ContentView &contentView, FloatingPanel &panel)
+                                 ContentView &contentView, FloatingPanel &panel,
+                                 ClaudeCodeMonitor &claudeCode)
 {
     const auto feed = [this](auto &source, auto signal, auto publish) {
         connect(&source, signal, this, publish);
@@ -75,6 +90,12 @@ IslandStateFeed::IslandStateFeed(StatePublisher &publisher, HUDManager &hudManag
     feed(panel, &FloatingPanel::frameChanged, [&publisher, &panel] {
         publisher.publish(QStringLiteral("Frame"), panel.frame().toAlignedRect());
     });
+    const auto publishClaudeCode = [&publisher, &claudeCode] {
+        publisher.publish(QStringLiteral("ClaudeCode"), claudeCodeFields(claudeCode));
+    };
+    feed(claudeCode, &ClaudeCodeMonitor::currentSessionChanged, publishClaudeCode);
+    feed(claudeCode, &ClaudeCodeMonitor::statusChanged, publishClaudeCode);
+    feed(claudeCode, &ClaudeCodeMonitor::isActiveChanged, publishClaudeCode);
 }
 
 } // namespace quillmere

@@ -5,6 +5,7 @@
 
 namespace quillmere {
 
+class ClaudeCodeMonitor;
 class ContentView;
 class FloatingPanel;
 class HUDManager;
@@ -15,12 +16,15 @@ struct HUDContent;
 /// absent values are left out, images are never sent.
 QVariantMap hudFields(const HUDContent &hud);
 
+/// What the coding assistant does, in the same form.
+QVariantMap claudeCodeFields(const ClaudeCodeMonitor &monitor);
+
 /// Feeds the island's published state to the StatePublisher as it changes.
 class IslandStateFeed : public QObject
 {
 public:
     IslandStateFeed(StatePublisher &publisher, HUDManager &hudManager, ContentView &contentView,
-                    FloatingPanel &panel);
+                    FloatingPanel &panel, ClaudeCodeMonitor &claudeCode);
 };
 
 } // namespace quillmere

@@ -20,9 +20,9 @@ void QuillmereApp::launch(std::function<void()> onTerminate)
 {
     appDelegate_.onTerminate = std::move(onTerminate);
     appDelegate_.applicationDidFinishLaunching();
-    stateFeed_ = std::make_unique<IslandStateFeed>(platform_.statePublisher, hudManager_,
-                                                   *appDelegate_.contentView(),
-                                                   *appDelegate_.floatingPanel());
+    stateFeed_ = std::make_unique<IslandStateFeed>(
+        platform_.statePublisher, hudManager_, *appDelegate_.contentView(),
+        *appDelegate_.floatingPanel(), *appDelegate_.claudeCode());
     remoteActions_ = std::make_unique<RemoteActions>(platform_.remoteControl,
                                                      platform_.notificationCenter, appDelegate_);
 }

@@ -14,6 +14,7 @@ class Haptics;
 class HttpClient;
 class LoginItem;
 class MediaRemote;
+class MessageSocketServer;
 class NotificationCenter;
 class PanelWindow;
 class RemoteControl;
@@ -24,6 +25,7 @@ class ScriptRunner;
 class StatePublisher;
 class StatusItem;
 class UserDefaults;
+class UserFiles;
 
 /// The operating system's services as the application sees them. The composition root builds them
 /// and keeps them alive for longer than everything that uses them.
@@ -49,6 +51,8 @@ struct Platform {
     HttpClient &httpClient;
     ScriptRunner &scriptRunner;
     MediaRemote &mediaRemote;
+    MessageSocketServer &messageSocketServer;
+    UserFiles &userFiles; ///< those of other programs
     StatePublisher &statePublisher;
     RemoteControl &remoteControl;
 };

@@ -7,6 +7,7 @@
 #include "platform/Platform.h"
 #include "platform/RemoteControl.h"
 #include "platform/StatePublisher.h"
+#include "platform/linux/desktop/LinuxUserFiles.h"
 #include "support/FakeAppearance.h"
 #include "support/FakeAudioHardware.h"
 #include "support/FakeBluetoothBatteries.h"
@@ -17,6 +18,7 @@
 #include "support/FakeHttpClient.h"
 #include "support/FakeLoginItem.h"
 #include "support/FakeMedia.h"
+#include "support/FakeMessageSocketServer.h"
 #include "support/FakePanelWindow.h"
 #include "support/FakeScreens.h"
 #include "support/FakeStatusItem.h"
@@ -24,6 +26,7 @@
 #include "support/MemoryCloudStore.h"
 #include "support/MemoryUserDefaults.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -56,6 +59,7 @@ protected:
     {
         speakers = audio.add({.mainVolume = 0.5F});
         audio.setDefault(speakers);
+        qputenv("HOME", library.path().toUtf8());
         screens.list = {FakeScreens::plain(QStringLiteral("A"), QRectF(0, 0, 1000, 800))};
     }
 
@@ -100,11 +104,13 @@ protected:
     FakeAudioStreams streams{runLoop};
     FakeScriptRunner scripts;
     FakeMediaRemote mediaRemote;
+    FakeMessageSocketServer socket{runLoop};
+    LinuxUserFiles files;
     Platform platform{runLoop,      notifications, defaults,   local,        cloud,
                       loginItem,    screens,       window,     globalEvents, dragPasteboard,
                       applications, audio,         streams,    batteries,    display,
                       haptics,      appearance,    statusItem, http,         scripts,
-                      mediaRemote,  state,         remote};
+                      mediaRemote,  socket,        files,      state,        remote};
     QTemporaryDir library;
     AudioDeviceID speakers = 0;
     int terminations = 0;
@@ -157,6 +163,41 @@ TEST_F(AppDelegateTest, WhatPlaysIsPublishedAndTakesCommands)
     app->terminate();
     runLoop.advance(10s);
     EXPECT_EQ(mediaRemote.queries, queries + 1);
+}
+
+TEST_F(AppDelegateTest, TheAssistantIsFollowedWhileTheSettingIsOn)
+{
+    ASSERT_TRUE(QDir(library.path()).mkpath(QStringLiteral(".claude/bin")));
+    const auto inHome = [this](const char *path) { return library.filePath(QLatin1String(path)); };
+    ASSERT_TRUE(QFile(inHome(".claude/bin/claude")).open(QIODevice::WriteOnly));
+    const auto status = [this] {
+        return state.values.value(QStringLiteral("ClaudeCode"))
+            .toMap()
+            .value(QStringLiteral("status"));
+    };
+    launch();
+    EXPECT_TRUE(socket.path.isEmpty());
+    EXPECT_FALSE(QFile::exists(inHome(".claude/settings.json")));
+
+    app->settings().enableClaudeCode.set(true);
+    runLoop.settle();
+    EXPECT_EQ(socket.path, QStringLiteral("/tmp/quillmere-claude.sock"));
+    EXPECT_TRUE(QFile::exists(inHome(".claude/hooks/quillmere-hook.sh")));
+    socket.send(R"({"session_id":"1","cwd":"/x","event":"PreCompact","status":"compacting"})");
+    runLoop.settle();
+    EXPECT_EQ(status(), QStringLiteral("compacting"));
+
+    app->settings().enableClaudeCode.set(false);
+    runLoop.settle();
+    EXPECT_EQ(status(), QStringLiteral("idle"));
+    EXPECT_TRUE(socket.path.isEmpty());
+    EXPECT_FALSE(QFile::exists(inHome(".claude/hooks/quillmere-hook.sh")));
+
+    app->settings().enableClaudeCode.set(true);
+    runLoop.settle();
+    app->terminate();
+    EXPECT_TRUE(socket.path.isEmpty());
+    EXPECT_TRUE(QFile::exists(inHome(".claude/hooks/quillmere-hook.sh"))); // stays for next time
 }
 
 TEST_F(AppDelegateTest, EachGateSilencesTheVolumeHUDWithoutARestart)

@@ -50,6 +50,7 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
     , httpClient_(runLoop)
     , scriptRunner_(runLoop, scriptPlaces())
     , mediaRemote_(runLoop, notificationCenter_, httpClient_, sessionBus(bus))
+    , messageSocketServer_(runLoop)
     , services_{runLoop,
                 notificationCenter_,
                 userDefaults_,
@@ -71,6 +72,8 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
                 httpClient_,
                 scriptRunner_,
                 mediaRemote_,
+                messageSocketServer_,
+                userFiles_,
                 bus.statePublisher(),
                 bus.remoteControl()}
 {

@@ -11,10 +11,12 @@
 #include "platform/linux/desktop/AutostartLoginItem.h"
 #include "platform/linux/desktop/FileUserDefaults.h"
 #include "platform/linux/desktop/FolderCloudStore.h"
+#include "platform/linux/desktop/LinuxUserFiles.h"
 #include "platform/linux/display/LinuxDisplayBrightness.h"
 #include "platform/linux/media/MprisMediaRemote.h"
 #include "platform/linux/net/QtHttpClient.h"
 #include "platform/linux/scripts/ProcessScriptRunner.h"
+#include "platform/linux/sockets/UnixMessageServer.h"
 #include "platform/linux/tray/TrayStatusItem.h"
 
 namespace quillmere {
@@ -52,6 +54,8 @@ private:
     QtHttpClient httpClient_;
     ProcessScriptRunner scriptRunner_;
     MprisMediaRemote mediaRemote_;
+    UnixMessageServer messageSocketServer_;
+    LinuxUserFiles userFiles_;
     Platform services_;
 };
 
