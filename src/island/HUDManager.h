@@ -75,6 +75,8 @@ public:
     /// How long the last request asked its HUD to stay, in seconds.
     double currentHUDDuration() const { return currentHUDDuration_; }
     const std::optional<HUDContent> &currentNowPlaying() const { return currentNowPlaying_; }
+    /// Of the playing track, in seconds; 0 or less: unknown.
+    double progressDuration() const { return playhead_.progressDuration; }
     bool isOvershoot() const { return isOvershoot_; }
     const std::optional<NetworkSpeed> &networkSpeed() const { return networkSpeed_; }
     const std::optional<SystemStats> &systemStats() const { return systemStats_; }

@@ -28,14 +28,24 @@ inline constexpr QLatin1StringView xmark{"xmark"};
 inline constexpr QLatin1StringView checkmark{"checkmark"};
 inline constexpr QLatin1StringView doc{"doc.fill"};
 
-inline constexpr QLatin1StringView arrowDownCircle{"arrow.down.circle.fill"};
-
+inline constexpr QLatin1StringView playFill{"play.fill"};
+inline constexpr QLatin1StringView pauseFill{"pause.fill"};
+inline constexpr QLatin1StringView backwardFill{"backward.fill"};
+inline constexpr QLatin1StringView forwardFill{"forward.fill"};
+inline constexpr QLatin1StringView shuffle{"shuffle"};
+inline constexpr QLatin1StringView repeat{"repeat"};
+inline constexpr QLatin1StringView heart{"heart.fill"};
+inline constexpr QLatin1StringView docOnDoc{"doc.on.doc"};
+inline constexpr QLatin1StringView musicNote{"music.note"};
 inline constexpr QLatin1StringView playCircle{"play.circle.fill"};
 
+inline constexpr QLatin1StringView arrowDownCircle{"arrow.down.circle.fill"};
+
 inline constexpr std::array all{
-    arrowDownCircle, chevronLeft,  chevronRight, xmark,        checkmark, doc,
-    speakerSlash,    speakerWave1, speakerWave2, speakerWave3, airpods,   headphones,
-    hifispeaker,     car,          tv,           sunMax,       battery25, trayAndArrowDown,
-    island,          playCircle};
+    arrowDownCircle, chevronLeft,  chevronRight, xmark,        checkmark,   doc,
+    speakerSlash,    speakerWave1, speakerWave2, speakerWave3, airpods,     headphones,
+    hifispeaker,     car,          tv,           sunMax,       battery25,   trayAndArrowDown,
+    island,          playFill,     pauseFill,    backwardFill, forwardFill, shuffle,
+    repeat,          heart,        docOnDoc,     musicNote,    playCircle};
 
 } // namespace quillmere::symbols

@@ -91,6 +91,8 @@ FocusScope {
         id: mainPage
         MainPage {
             model: dashboard.model
+            live: dashboard.live
+            reducedMotion: dashboard.motion === Follower.Linear
         }
     }
     Component {

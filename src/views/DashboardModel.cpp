@@ -55,6 +55,7 @@ DashboardModel::DashboardModel(RunLoop &runLoop, SettingsStore &settings, HUDMan
     , fileTray_(fileTray)
     , appearance_(appearance)
     , slots_{islandPageName(contentView.pages().islandPage()), QString()}
+    , media_(runLoop, settings, hudManager, appearance)
 {
     const IslandPages &pages = contentView_.pages();
     connect(&pages, &IslandPages::offeredChanged, this, &DashboardModel::pagesChanged);

@@ -2,6 +2,7 @@
 
 #include "platform/RunLoop.h"
 #include "views/FaceModel.h"
+#include "views/MediaModel.h"
 
 #include <QObject>
 #include <QStringList>
@@ -44,6 +45,8 @@ class DashboardModel : public QObject
     Q_PROPERTY(int activityIndex READ activityIndex NOTIFY activityChanged FINAL)
     Q_PROPERTY(quillmere::FaceModel *activity READ activity CONSTANT FINAL)
 
+    Q_PROPERTY(quillmere::MediaModel *media READ media CONSTANT FINAL)
+
     Q_PROPERTY(QString outputName READ outputName NOTIFY outputChanged FINAL)
     Q_PROPERTY(QString outputSymbol READ outputSymbol NOTIFY outputChanged FINAL)
     Q_PROPERTY(bool pickerOpen READ isPickerOpen NOTIFY pickerOpenChanged FINAL)
@@ -79,6 +82,8 @@ public:
     int activityCount() const;
     int activityIndex() const;
     FaceModel *activity() { return &activity_; } ///< while there is one
+
+    MediaModel *media() { return &media_; }
 
     QString outputName() const;
     QString outputSymbol() const;
@@ -137,6 +142,7 @@ private:
     bool showsLevel_ = false;
     FaceModel level_;
     FaceModel activity_;
+    MediaModel media_;
     Task nextMinute_;
 };
 

@@ -39,7 +39,16 @@ constexpr std::array glyphNames{
     GlyphName{symbols::checkmark, QLatin1StringView{"actions/object-select"}},
     GlyphName{symbols::doc, QLatin1StringView{"mimetypes/text-x-generic"}},
     GlyphName{symbols::arrowDownCircle, QLatin1StringView{"status/software-update-available"}},
-    GlyphName{symbols::playCircle, QLatin1StringView{"actions/media-playback-start"}},
+    GlyphName{symbols::playFill, QLatin1StringView{"actions/media-playback-start"}},
+    GlyphName{symbols::pauseFill, QLatin1StringView{"actions/media-playback-pause"}},
+    GlyphName{symbols::backwardFill, QLatin1StringView{"actions/media-skip-backward"}},
+    GlyphName{symbols::forwardFill, QLatin1StringView{"actions/media-skip-forward"}},
+    GlyphName{symbols::shuffle, QLatin1StringView{"status/media-playlist-shuffle"}},
+    GlyphName{symbols::repeat, QLatin1StringView{"status/media-playlist-repeat"}},
+    GlyphName{symbols::heart, QLatin1StringView{"emblems/emblem-favorite"}},
+    GlyphName{symbols::docOnDoc, QLatin1StringView{"actions/edit-copy"}},
+    GlyphName{symbols::musicNote, QLatin1StringView{"emblems/emblem-music"}},
+    GlyphName{symbols::playCircle, QLatin1StringView{"status/play-circle"}},
     GlyphName{symbols::island, QLatin1StringView{"status/island"}},
 };
 

@@ -6,6 +6,7 @@
 #include "platform/Appearance.h"
 #include "settings/SettingsStore.h"
 #include "views/DesktopAccent.h"
+#include "views/OpenableLink.h"
 
 #include <algorithm>
 
@@ -18,16 +19,6 @@ constexpr double oneLine = 50;      // a HUD lower than this has one line
 
 /// A wheel's notch is 120 eighths of a degree and scrolls ten units.
 constexpr double unitsPerAngle = 1.0 / 12;
-
-/// What a HUD may open: pages and letters, no files and no programs.
-QUrl linkOf(const std::optional<HUDContent> &hud)
-{
-    const QUrl link(hud ? hud->contentURL.value_or(QString()) : QString(), QUrl::StrictMode);
-    const auto schemes = {QLatin1StringView("https"), QLatin1StringView("http"),
-                          QLatin1StringView("mailto")};
-    const bool allowed = std::ranges::find(schemes, link.scheme()) != schemes.end();
-    return link.isValid() && allowed ? link : QUrl();
-}
 
 /// Whether `next` is the same thing with another level: volume over volume, but no other message
 /// over a message.
@@ -136,7 +127,8 @@ double IslandModel::surfaceAlpha() const
 
 void IslandModel::press()
 {
-    const QUrl link = linkOf(contentView_.shownHUD());
+    const auto &hud = contentView_.shownHUD();
+    const QUrl link = openableLink(hud ? hud->contentURL : std::nullopt);
     if (link.isEmpty()) {
         panel_.mouseDown();
         return;
@@ -178,11 +170,16 @@ void IslandModel::updateWings()
     const auto activity = contentView_.presentation() == Presentation::Collapsed
                               ? contentView_.idleActivity()
                               : std::nullopt;
-    if (activity)
-        wings_.setFace(hudFace(*activity, hudLook(settings_), desktopAccent(appearance_)));
     if (!activity && !showsWings_)
         return;
+    const bool isMedia = activity && activity == hudManager_.currentNowPlaying();
+    if (isMedia && showsWings_ && wingsShowMedia_)
+        return; // what changes about a track is told by its own model
     showsWings_ = activity.has_value();
+    if (activity) // what fades out stays as it was
+        wingsShowMedia_ = isMedia;
+    if (activity && !isMedia)
+        wings_.setFace(hudFace(*activity, hudLook(settings_), desktopAccent(appearance_)));
     Q_EMIT wingsChanged();
 }
 

@@ -50,6 +50,7 @@ class IslandModel : public QObject
     Q_PROPERTY(bool expanded READ isExpanded NOTIFY presentationChanged FINAL)
     Q_PROPERTY(double surfaceAlpha READ surfaceAlpha NOTIFY surfaceChanged FINAL)
     Q_PROPERTY(bool showsWings READ showsWings NOTIFY wingsChanged FINAL)
+    Q_PROPERTY(bool wingsShowMedia READ wingsShowMedia NOTIFY wingsChanged FINAL)
     Q_PROPERTY(quillmere::FaceModel *wings READ wings CONSTANT FINAL)
     Q_PROPERTY(QString accessibleText READ accessibleText NOTIFY accessibleTextChanged FINAL)
 
@@ -74,6 +75,8 @@ public:
     double surfaceAlpha() const; ///< of the island's body; below 1 it is glass
     /// The activity in the wings of the pill.
     bool showsWings() const { return showsWings_; }
+    /// That activity is the playing track; otherwise it has its face.
+    bool wingsShowMedia() const { return wingsShowMedia_; }
     FaceModel *wings() { return &wings_; }
     QString accessibleText() const;
 
@@ -129,6 +132,7 @@ private:
     int lastFace_ = 0;
     int contentDelay_ = 0;
     bool showsWings_ = false;
+    bool wingsShowMedia_ = false;
     FaceModel wings_;
     bool pointerInside_ = false;
     Task appearanceObserver_;

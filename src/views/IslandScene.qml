@@ -78,6 +78,7 @@ Item {
 
             Wings {
                 island: scene.island
+                media: scene.dashboard.media
                 live: scene.live
             }
             HUDSlot {

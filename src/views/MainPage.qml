@@ -1,48 +1,58 @@
 import QtQuick
 import Quillmere
 
-// What is live now: time, where sound goes, and the latest activity.
+// What is live now: the playing track, or else the time, and the latest activity.
 Item {
     id: page
 
     required property DashboardModel model
+    required property bool live
+    required property bool reducedMotion
 
+    readonly property MediaModel media: model.media
     readonly property bool busy: model.activityCount > 0
+    readonly property bool idle: !busy && !media.hasMedia && media.offered
 
-    Column {
-        anchors.left: parent.left
-        anchors.leftMargin: 26
-        anchors.top: parent.top
-        anchors.topMargin: page.busy ? 18 : 44
+    component Panel: Loader {
+        property bool shown
 
-        FigureText {
-            anchors.left: parent.left
-            text: page.model.time
-            font: Type.display
-            color: Ink.content
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
-        }
-        Text {
-            anchors.left: parent.left
-            text: page.model.date
-            textFormat: Text.PlainText
-            font: Type.text
-            color: Ink.secondary
+        active: shown || opacity > 0
+        visible: opacity > 0
+        enabled: shown
+
+        Follower on opacity {
+            to: shown ? 1 : 0
+            curve: Follower.Linear
+            enabled: page.live
+            riseDuration: 120
+            fallDuration: 80
         }
     }
 
-    Button {
+    Panel {
+        anchors.fill: parent
+        anchors.topMargin: page.busy || page.idle ? 18 : 44
+        shown: !page.media.hasMedia
+
+        sourceComponent: ClockPanel {
+            model: page.model
+        }
+    }
+    Panel {
+        anchors.left: parent.left
+        anchors.leftMargin: 24
         anchors.right: parent.right
         anchors.rightMargin: 24
-        anchors.top: parent.top
-        anchors.topMargin: 24
-        maximumWidth: 260
-        visible: text !== ""
-        symbol: page.model.outputSymbol
-        text: page.model.outputName
-        description: qsTr("Choose where sound plays")
-        onPressed: page.model.openPicker()
+        y: page.busy ? 20 : 28
+        height: page.busy ? 112 : 132
+        shown: page.media.hasMedia
+
+        sourceComponent: MediaPanel {
+            media: page.media
+            model: page.model
+            live: page.live
+            reducedMotion: page.reducedMotion
+        }
     }
 
     ActivityCard {
@@ -50,9 +60,46 @@ Item {
         anchors.leftMargin: 24
         anchors.right: parent.right
         anchors.rightMargin: 24
-        anchors.bottom: parent.bottom
-        anchors.bottomMargin: 6
+        height: page.media.hasMedia ? 46 : 56
+        // Under a track it reaches into the foot, above the dots.
+        y: page.media.hasMedia ? 146 : parent.height - height - 6
         visible: page.busy
         model: page.model
+    }
+    Card {
+        anchors.left: parent.left
+        anchors.leftMargin: 24
+        anchors.right: parent.right
+        anchors.rightMargin: 24
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 6
+        height: 56
+        visible: page.idle
+
+        Accessible.role: Accessible.StaticText
+        Accessible.name: nothing.text
+
+        Glyph {
+            id: note
+
+            width: 18
+            height: 18
+            anchors.left: parent.left
+            anchors.leftMargin: 21
+            anchors.verticalCenter: parent.verticalCenter
+            symbol: "music.note"
+            color: Ink.secondary
+        }
+        Text {
+            id: nothing
+
+            anchors.left: note.right
+            anchors.leftMargin: 17
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("Nothing is playing")
+            textFormat: Text.PlainText
+            font: Type.text
+            color: Ink.secondary
+        }
     }
 }

@@ -43,6 +43,14 @@ QFont Typography::text() const
     return desktopFont(12);
 }
 
+QFont Typography::headline() const
+{
+    QFont font = desktopFont(17);
+    font.setWeight(QFont::DemiBold);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, -0.3);
+    return font;
+}
+
 QFont Typography::display() const
 {
     QFont font = desktopFont(44);

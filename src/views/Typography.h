@@ -15,14 +15,16 @@ class Typography : public QObject
     QML_SINGLETON
     Q_PROPERTY(QFont title READ title NOTIFY changed)
     Q_PROPERTY(QFont text READ text NOTIFY changed)
+    Q_PROPERTY(QFont headline READ headline NOTIFY changed)
     Q_PROPERTY(QFont display READ display NOTIFY changed)
 
 public:
     explicit Typography(QObject *parent = nullptr);
 
-    QFont title() const;   ///< the main line of a HUD
-    QFont text() const;    ///< everything else
-    QFont display() const; ///< the one large thing on a page
+    QFont title() const;    ///< the main line of a HUD
+    QFont text() const;     ///< everything else
+    QFont headline() const; ///< the main line of a page
+    QFont display() const;  ///< the one large thing on a page
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

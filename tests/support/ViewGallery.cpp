@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QTimer>
 
 #include <cstdio>
@@ -56,6 +57,7 @@ public:
     void clear()
     {
         hud.dismissCurrentHUD();
+        hud.clearNowPlaying();
         while (!hud.hudQueue().isEmpty())
             hud.removeActivity(0);
         picker.close();
@@ -93,6 +95,40 @@ HUDContent sampleDevice()
     return device;
 }
 
+QImage sampleArtwork(const QList<QColor> &colors)
+{
+    QImage image(480, 480, QImage::Format_RGB32);
+    QRadialGradient gradient(QPointF(120, 100), 480);
+    for (double place = 0; const QColor &color : colors) {
+        gradient.setColorAt(place, color);
+        place += 1.0 / static_cast<double>(colors.size() - 1);
+    }
+    QPainter(&image).fillRect(image.rect(), gradient);
+    return image;
+}
+
+const QList<QColor> sunset{0xffffd9a0, 0xffff8a5c, 0xffb4327a, 0xff3b1c5a};
+
+struct Track {
+    const char *title = "First Light Over the Bay";
+    const char *artist = "The Testers — Null Output";
+    QList<QColor> artwork = sunset;
+    bool playing = true;
+    double duration = 226;
+};
+
+void play(Stage &stage, const Track &track)
+{
+    HUDContent record = message(track.title, track.artist, symbols::musicNote);
+    if (!track.artwork.isEmpty())
+        record.artworkImage = sampleArtwork(track.artwork);
+    record.isPlaying = track.playing;
+    stage.fixture.settings.showFileTray.set(true);
+    stage.dashboard.media()->setSupportedExtras({MediaControlButton::Shuffle});
+    stage.hud.updateNowPlaying(record, 65, track.duration);
+    stage.runLoop.advance(10ms);
+}
+
 std::vector<Scene> scenes()
 {
     const auto volume = [](double percent, HUDColorTheme theme = HUDColorTheme::White) {
@@ -125,6 +161,30 @@ std::vector<Scene> scenes()
     const auto shown = [](const HUDContent &content) {
         return [=](Stage &stage) { stage.hud.show(content, false, hudSeconds); };
     };
+    const auto media = [](const Track &track, bool activity = false) {
+        return [=](Stage &stage) {
+            if (activity) {
+                stage.hud.show(sampleDevice(), true, 1);
+                stage.runLoop.advance(2s);
+            }
+            play(stage, track);
+            stage.content.toggle();
+        };
+    };
+    const auto compact = [](const Track &track, WaveformStyle style) {
+        return [=](Stage &stage) {
+            stage.fixture.settings.compactWaveformStyle.set(style);
+            play(stage, track);
+        };
+    };
+    const Track longTrack{
+        .title = "Concerto for Two Violins, Strings and Continuo in D Minor, Largo ma non tanto",
+        .artist = "An Orchestra of Quite Some Size With Soloists From Both Sides of the River, "
+                  "Conducted by Nobody"};
+    const Track rightToLeft{.title = "\u05d0\u05d5\u05e8 \u05e8\u05d0\u05e9\u05d5\u05df "
+                                     "\u05de\u05e2\u05dc \u05d4\u05de\u05e4\u05e8\u05e5",
+                            .artist = "\u05d4\u05d1\u05d5\u05d3\u05e7\u05d9\u05dd",
+                            .artwork = {0xff9be8ff, 0xff2b6cff, 0xff0b1a5a}};
     auto picture = message("\u05e9\u05dc\u05d5\u05dd \u202e<b>Ada</b>",
                            "first\nsecond \u2066third \u05d0\u05d1\u05d2", symbols::island);
     picture.artworkImage = QImage(300, 200, QImage::Format_RGB32);
@@ -155,6 +215,33 @@ std::vector<Scene> scenes()
                                             stage.fixture.settings.islandAppearance.set(
                                                 IslandAppearance::Classic);
                                         })},
+        {"media", media({})},
+        {"media-activity", media({}, true)},
+        {"media-paused", media({.playing = false})},
+        {"media-long", media(longTrack)},
+        {"media-right-to-left",
+         [=](Stage &stage) {
+             QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+             media(rightToLeft, true)(stage);
+         }},
+        {"media-no-artwork",
+         [=](Stage &stage) {
+             QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+             media({.artwork = {}})(stage);
+         }},
+        {"media-no-duration", media({.duration = 0})},
+        {"media-light-artwork", media({.artwork = {0xffffffff, 0xfff3f3f0, 0xffe6e2da}})},
+        {"media-dark-artwork", media({.artwork = {0xff101018, 0xff050508, 0xff000000}})},
+        {"media-turning",
+         [=](Stage &stage) {
+             media({})(stage);
+             wait(900);
+             play(stage, {.title = "Next", .artwork = rightToLeft.artwork});
+         },
+         90},
+        {"media-wings", compact({}, WaveformStyle::Gradient)},
+        {"media-wings-plain", compact({}, WaveformStyle::Monochrome)},
+        {"media-wings-paused", compact({.artwork = {}, .playing = false}, WaveformStyle::Colored)},
         {"wings",
          [](Stage &stage) {
              stage.fixture.settings.idleActivityMostRecent.set(true);
