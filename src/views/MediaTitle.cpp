@@ -106,7 +106,7 @@ QString withoutGuests(QString title)
 
 QString mediaTitle(const QString &title, bool hideExtras)
 {
-    const QString plain = plainText(title, longestTitle);
+    QString plain = plainText(title, longestTitle);
     if (!hideExtras)
         return plain;
     const QString bare = withoutTrailing(withoutGuests(withoutBracketed(plain))).simplified();

@@ -34,8 +34,8 @@ double playingHeight(int bar, double seconds)
     const double beat = wave(1.15 + 0.13 * (bar % 4), seconds, phase);
     const double flutter = wave(2.35 + 0.21 * (bar % 3), seconds, 1.7 * phase);
     const double swell = wave(0.31, seconds, 0.5 * phase);
-    const double loudness = 0.5 + 0.32 * beat + 0.22 * flutter + 0.1 * swell;
-    return std::clamp(0.18 + 0.82 * loudness * (0.7 + 0.3 * stillHeight(bar)), 0.18, 1.0);
+    const double loudness = 0.56 + 0.34 * beat + 0.2 * flutter + 0.12 * swell;
+    return std::clamp(0.18 + 0.82 * loudness * (0.78 + 0.32 * stillHeight(bar)), 0.18, 1.0);
 }
 
 } // namespace quillmere

@@ -58,14 +58,14 @@ void paintBars(QPainter &painter, const Bars &bars)
         const auto [width, pitch] = stepsAt(deviceScale(painter), bars.width, bars.gap);
         const double whole = pitch * static_cast<double>(bars.heights.size() - 1) + width;
         double x = std::round(box.center().x() - whole / 2);
-        QPainterPath path;
         for (const double share : bars.heights) {
             const double height = std::max(width, share * box.height());
-            path.addRoundedRect(QRectF(x, box.center().y() - height / 2, width, height), width / 2,
-                                width / 2);
+            const QRectF bar(x, box.center().y() - height / 2, width, height);
+            QPainterPath path;
+            path.addRoundedRect(bar, width / 2, width / 2);
+            painter.fillPath(path, brush(bars.colors, bar));
             x += pitch;
         }
-        painter.fillPath(path, brush(bars.colors, box));
     });
 }
 

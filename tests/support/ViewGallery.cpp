@@ -1,5 +1,6 @@
 // Draws the island in states that no real event can bring about at will, for people to look at:
-// ViewGallery DIRECTORY writes numbered pictures, at the scale of QT_SCALE_FACTOR.
+// ViewGallery DIRECTORY [SCENE] writes numbered pictures, at the scale of QT_SCALE_FACTOR; of the
+// scenes whose names begin with SCENE only.
 
 #include "platform/Symbols.h"
 #include "support/IslandFixture.h"
@@ -8,6 +9,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
 
@@ -56,6 +58,8 @@ public:
 
     void clear()
     {
+        pointer(QEvent::MouseButtonRelease, {});
+        pointer(QEvent::MouseMove, {0, 280});
         hud.dismissCurrentHUD();
         hud.clearNowPlaying();
         while (!hud.hudQueue().isEmpty())
@@ -69,7 +73,21 @@ public:
         wait(900);
     }
 
+    /// The pointer does something at `position`, in units from the island's left end.
+    void pointer(QEvent::Type type, QPointF position)
+    {
+        position.rx() += (window.width() - island.targetWidth()) / 2;
+        const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        buttons = type == QEvent::MouseButtonPress     ? Qt::LeftButton
+                  : type == QEvent::MouseButtonRelease ? Qt::NoButton
+                                                       : buttons;
+        QMouseEvent event(type, position, window.mapToGlobal(position), button, buttons,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+
     IslandWindow window;
+    Qt::MouseButton buttons = Qt::NoButton;
 };
 
 struct Scene {
@@ -232,6 +250,21 @@ std::vector<Scene> scenes()
         {"media-no-duration", media({.duration = 0})},
         {"media-light-artwork", media({.artwork = {0xffffffff, 0xfff3f3f0, 0xffe6e2da}})},
         {"media-dark-artwork", media({.artwork = {0xff101018, 0xff050508, 0xff000000}})},
+        {"media-scrolled-title",
+         [=](Stage &stage) {
+             media(longTrack)(stage);
+             wait(900);
+             stage.pointer(QEvent::MouseMove, {300, 44});
+         },
+         2500},
+        {"media-dragging",
+         [=](Stage &stage) {
+             media({})(stage);
+             wait(900);
+             stage.pointer(QEvent::MouseMove, {300, 89});
+             stage.pointer(QEvent::MouseButtonPress, {300, 89});
+             stage.pointer(QEvent::MouseMove, {450, 89});
+         }},
         {"media-turning",
          [=](Stage &stage) {
              media({})(stage);
@@ -266,11 +299,13 @@ std::vector<Scene> scenes()
     };
 }
 
-void takePictures(Stage &stage, const QDir &dir)
+void takePictures(Stage &stage, const QDir &dir, QLatin1StringView wanted)
 {
     int number = 0;
     for (const Scene &scene : scenes()) {
         stage.window.setColor(++number % 2 == 1 ? 0xff3c5a93 : 0xffe9c9b6);
+        if (!QLatin1StringView(scene.name).startsWith(wanted))
+            continue;
         scene.play(stage);
         wait(scene.milliseconds);
         const QString name = QStringLiteral("%1-%2.png")
@@ -288,7 +323,7 @@ int main(int argc, char *argv[])
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication application(argc, argv);
     if (argc < 2) {
-        std::fputs("usage: ViewGallery DIRECTORY\n", stderr);
+        std::fputs("usage: ViewGallery DIRECTORY [SCENE]\n", stderr);
         return 2;
     }
     const QDir dir(QString::fromLocal8Bit(argv[1]));
@@ -297,6 +332,6 @@ int main(int argc, char *argv[])
         return 1;
     }
     Stage stage;
-    takePictures(stage, dir);
+    takePictures(stage, dir, QLatin1StringView(argc > 2 ? argv[2] : ""));
     return 0;
 }
