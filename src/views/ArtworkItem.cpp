@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 #include <vector>
 
 namespace quillmere {
@@ -75,28 +76,42 @@ void paintCard(QPainter &painter, const Card &card, const QRectF &box, double ra
 
 } // namespace
 
-void ArtworkItem::setImage(const QImage &image)
+MediaModel *ArtworkItem::media() const
 {
-    if (image.cacheKey() == now_.image.cacheKey())
+    return media_;
+}
+
+void ArtworkItem::setMedia(MediaModel *media)
+{
+    if (media == media_)
         return;
-    before_ = now_;
-    now_.image = image;
-    now_.fitted = {};
+    if (media_)
+        disconnect(media_, nullptr, this, nullptr);
+    media_ = media;
+    if (media_) {
+        connect(media_, &MediaModel::artworkChanged, this, &ArtworkItem::takeArtwork);
+        connect(media_, &MediaModel::symbolChanged, this, &ArtworkItem::takeSymbol);
+        takeSymbol();
+        takeArtwork();
+    }
+    Q_EMIT mediaChanged();
+}
+
+void ArtworkItem::takeArtwork()
+{
+    before_ =
+        std::exchange(now_, {.image = media_->artwork(), .symbol = now_.symbol, .fitted = {}});
     update();
-    Q_EMIT imageChanged();
     ++turns_;
     Q_EMIT turnsChanged();
 }
 
-void ArtworkItem::setSymbol(const QString &symbol)
+void ArtworkItem::takeSymbol()
 {
-    if (symbol == now_.symbol)
-        return;
-    now_.symbol = symbol;
+    now_.symbol = media_->symbol();
     if (now_.image.isNull())
         now_.fitted = {};
     update();
-    Q_EMIT symbolChanged();
 }
 
 void ArtworkItem::setRadius(double radius)

@@ -1,14 +1,17 @@
 #pragma once
 
+#include "views/MediaModel.h"
 #include "views/PaintedItem.h"
 
 #include <QImage>
+#include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
 namespace quillmere {
 
-/// The artwork of a track, with rounded corners and cropped to fill the item; a glyph on a card
-/// where there is none.
+/// The artwork of the playing track, with rounded corners and cropped to fill the item; a glyph on
+/// a card where there is none. It takes the picture from the model itself: one that passed through
+/// a binding would stay with the script engine until its next collection.
 ///
 /// A new one turns up like the other side of a card: `turns` counts the changes, and `turn` is
 /// driven there by the scene.
@@ -16,8 +19,7 @@ class ArtworkItem : public PaintedItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(Artwork)
-    Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged)
-    Q_PROPERTY(QString symbol READ symbol WRITE setSymbol NOTIFY symbolChanged)
+    Q_PROPERTY(quillmere::MediaModel *media READ media WRITE setMedia NOTIFY mediaChanged)
     Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY radiusChanged)
     Q_PROPERTY(bool crossFades READ crossFades WRITE setCrossFades NOTIFY crossFadesChanged)
     Q_PROPERTY(int turns READ turns NOTIFY turnsChanged)
@@ -26,10 +28,8 @@ class ArtworkItem : public PaintedItem
 public:
     using PaintedItem::PaintedItem;
 
-    QImage image() const { return now_.image; }
-    void setImage(const QImage &image);
-    QString symbol() const { return now_.symbol; }
-    void setSymbol(const QString &symbol);
+    MediaModel *media() const;
+    void setMedia(MediaModel *media);
     double radius() const { return radius_; }
     void setRadius(double radius);
     bool crossFades() const { return crossFades_; }
@@ -39,8 +39,7 @@ public:
     void setTurn(double turn);
 
 Q_SIGNALS:
-    void imageChanged();
-    void symbolChanged();
+    void mediaChanged();
     void radiusChanged();
     void crossFadesChanged();
     void turnsChanged();
@@ -57,8 +56,11 @@ private:
         QImage fitted; ///< at the pixels last shown
     };
 
+    void takeArtwork();
+    void takeSymbol();
     QImage fitted(Side &side, QSize pixels) const;
 
+    QPointer<MediaModel> media_;
     mutable Side now_;
     mutable Side before_;
     double radius_ = 0;

@@ -32,8 +32,6 @@ class MediaModel : public QObject
     Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
     Q_PROPERTY(bool titleFromRight READ titleFromRight NOTIFY titleChanged FINAL)
     Q_PROPERTY(QString artist READ artist NOTIFY artistChanged FINAL)
-    Q_PROPERTY(QImage artwork READ artwork NOTIFY artworkChanged FINAL)
-    Q_PROPERTY(QString symbol READ symbol NOTIFY symbolChanged FINAL)
     Q_PROPERTY(bool isPlaying READ isPlaying NOTIFY isPlayingChanged FINAL)
     Q_PROPERTY(bool hasDuration READ hasDuration NOTIFY durationChanged FINAL)
     Q_PROPERTY(double duration READ duration NOTIFY durationChanged FINAL)

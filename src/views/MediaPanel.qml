@@ -19,8 +19,7 @@ Item {
         width: parent.height
         height: width
         anchors.left: parent.left
-        image: panel.media.artwork
-        symbol: panel.media.symbol
+        media: panel.media
         radius: 14
         crossFades: panel.reducedMotion || !panel.media.flipsArtwork
 

@@ -39,8 +39,7 @@ Item {
             anchors.left: parent.left
             anchors.leftMargin: 10
             anchors.verticalCenter: parent.verticalCenter
-            image: wings.media.artwork
-            symbol: wings.media.symbol
+            media: wings.media
             radius: 5
             crossFades: wings.island.reducedMotion || !wings.media.flipsArtwork
 

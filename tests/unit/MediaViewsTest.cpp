@@ -250,6 +250,27 @@ TEST_F(MediaViewsTest, WaveformWakesNobodyUnlessItPlaysAndIsSeen)
     EXPECT_EQ(log.take(), QStringList());
 }
 
+TEST_F(MediaViewsTest, ArtworkTurnsOverOncePerPicture)
+{
+    window.setIsland(island, dashboard);
+    play(u"Tide"_s, 10, 200);
+    content.toggle();
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    auto *shownArtwork = shown<ArtworkItem>();
+    ASSERT_TRUE(shownArtwork);
+    EXPECT_EQ(shownArtwork->turn(), shownArtwork->turns()); // an opening page turns nothing
+    const int before = shownArtwork->turns();
+    play(u"Ebb"_s, 0, 100); // of the same record
+    EXPECT_EQ(shownArtwork->turns(), before);
+    artwork = stripes({Qt::blue});
+    play(u"Flow"_s, 0, 100);
+    EXPECT_EQ(shownArtwork->turns(), before + 1);
+    EXPECT_LT(shownArtwork->turn(), before + 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shownArtwork->turn() == before + 1; }));
+    window.clearIsland();
+}
+
 TEST_F(MediaViewsTest, ScrubberSeeksWhereItIsLetGo)
 {
     window.setIsland(island, dashboard);
