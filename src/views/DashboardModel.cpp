@@ -45,7 +45,7 @@ QString title(IslandPage page)
 
 DashboardModel::DashboardModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
                                ContentView &contentView, AudioOutputPicker &outputPicker,
-                               FileTray &fileTray, const Appearance &appearance, QObject *parent)
+                               FileTray &fileTray, Appearance &appearance, QObject *parent)
     : QObject(parent)
     , runLoop_(runLoop)
     , settings_(settings)

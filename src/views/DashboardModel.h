@@ -59,7 +59,7 @@ class DashboardModel : public QObject
 public:
     DashboardModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
                    ContentView &contentView, AudioOutputPicker &outputPicker, FileTray &fileTray,
-                   const Appearance &appearance, QObject *parent = nullptr);
+                   Appearance &appearance, QObject *parent = nullptr);
 
     QStringList pages() const; ///< the titles of the pages offered
     int pageIndex() const;
@@ -135,7 +135,7 @@ private:
     ContentView &contentView_;
     AudioOutputPicker &outputPicker_;
     FileTray &fileTray_;
-    const Appearance &appearance_;
+    Appearance &appearance_;
 
     std::array<QString, 2> slots_;
     int slide_ = 0;

@@ -1,6 +1,7 @@
 #include "views/MediaModel.h"
 
 #include "island/HUDManager.h"
+#include "platform/Appearance.h"
 #include "platform/RunLoop.h"
 #include "settings/SettingsStore.h"
 #include "views/ArtworkAccent.h"
@@ -24,7 +25,7 @@ constexpr int keptAccents = 32;
 } // namespace
 
 MediaModel::MediaModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
-                       const Appearance &appearance, QObject *parent)
+                       Appearance &appearance, QObject *parent)
     : QObject(parent)
     , runLoop_(runLoop)
     , settings_(settings)
@@ -38,6 +39,7 @@ MediaModel::MediaModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hu
         update();
         refreshLook();
     });
+    appearanceObserver_ = appearance_.onChanged([this] { refreshLook(); });
     update();
     refreshLook();
 }
@@ -48,15 +50,10 @@ void MediaModel::setSupportedExtras(std::set<MediaControlButton> extras)
     refreshLook();
 }
 
-bool MediaModel::isOffered() const
-{
-    return settings_.showMediaHUD.get();
-}
-
 void MediaModel::update()
 {
     const auto &record = hudManager_.currentNowPlaying();
-    const bool hasMedia = record.has_value() && isOffered();
+    const bool hasMedia = record.has_value() && settings_.showMediaHUD.get();
     if (hasMedia)
         setFace(mediaFace(*record, hudManager_.progressDuration(),
                           settings_.hideMediaTitleExtras.get()));
@@ -112,6 +109,7 @@ void MediaModel::followSeek(MediaFace &face)
 void MediaModel::refreshLook()
 {
     Look look;
+    look.offered = settings_.showMediaHUD.get();
     look.accent = currentAccent();
     look.waveform = waveformColors(settings_.expandedWaveformStyle.get(), look.accent);
     look.compactWaveform = waveformColors(settings_.compactWaveformStyle.get(), look.accent);

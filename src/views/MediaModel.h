@@ -27,7 +27,7 @@ class MediaModel : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the program")
-    Q_PROPERTY(bool offered READ isOffered NOTIFY hasMediaChanged FINAL)
+    Q_PROPERTY(bool offered READ isOffered NOTIFY lookChanged FINAL)
     Q_PROPERTY(bool hasMedia READ hasMedia NOTIFY hasMediaChanged FINAL)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
     Q_PROPERTY(bool titleFromRight READ titleFromRight NOTIFY titleChanged FINAL)
@@ -50,15 +50,12 @@ class MediaModel : public QObject
 
 public:
     MediaModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
-               const Appearance &appearance, QObject *parent = nullptr);
+               Appearance &appearance, QObject *parent = nullptr);
 
     /// The extra buttons somebody listens to; a button without a use is not shown.
     void setSupportedExtras(std::set<MediaControlButton> extras);
 
-    /// The desktop's accent colour or its wish for motion may have changed.
-    void refreshLook();
-
-    bool isOffered() const; ///< the user wants to see media at all
+    bool isOffered() const { return look_.offered; } ///< the user wants to see media at all
     bool hasMedia() const { return hasMedia_; }
     const MediaFace &face() const { return face_; }
     QString title() const { return face_.title; }
@@ -125,6 +122,7 @@ private:
     struct Look {
         bool operator==(const Look &) const = default;
 
+        bool offered = true;
         QColor accent;
         QList<QColor> waveform;
         QList<QColor> compactWaveform;
@@ -135,6 +133,7 @@ private:
     };
 
     void update();
+    void refreshLook();
     void setFace(MediaFace face);
     void followSeek(MediaFace &face);
     QColor currentAccent();
@@ -143,7 +142,7 @@ private:
     RunLoop &runLoop_;
     SettingsStore &settings_;
     HUDManager &hudManager_;
-    const Appearance &appearance_;
+    Appearance &appearance_;
 
     bool hasMedia_ = false;
     MediaFace face_;
@@ -153,6 +152,7 @@ private:
     Task seekTimeout_;
     QCache<qint64, QColor> accents_; ///< by the artwork's cache key
     qint64 accentInWork_ = 0;
+    Task appearanceObserver_;
     Owner owner_;
 };
 

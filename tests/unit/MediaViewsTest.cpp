@@ -199,9 +199,17 @@ TEST_F(MediaViewsTest, ColourComesFromTheArtworkAndIsFoundOnce)
     EXPECT_TRUE(changed.isEmpty());
     settings.enableDynamicColors.set(false);
     EXPECT_EQ(media.accent(), plain);
+    appearance.accent = {0.2, 0.9, 0.3};
+    appearance.changed();
+    EXPECT_NEAR(media.accent().hslHue(), 129, 2);
     hud.clearNowPlaying();
     EXPECT_FALSE(media.hasMedia());
     EXPECT_EQ(media.title(), u"Ebb"_s); // to fade out
+    QSignalSpy look(&media, &MediaModel::lookChanged);
+    settings.showMediaHUD.set(false);
+    EXPECT_FALSE(media.isOffered() || look.isEmpty());
+    play(u"Tide"_s, 0, 100);
+    EXPECT_FALSE(media.hasMedia());
 }
 
 TEST_F(MediaViewsTest, SourceOpensPagesOnlyAndElseAsksForTheApplication)
