@@ -1,3 +1,4 @@
+#include "app/MediaPlayback.h"
 #include "app/QuillmereApp.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/core/QtRunLoop.h"
@@ -9,7 +10,9 @@
 #include "views/Glyphs.h"
 #include "views/IslandModel.h"
 #include "views/IslandWindow.h"
+#include "views/MediaModel.h"
 
+#include <QClipboard>
 #include <QCommandLineParser>
 #include <QDesktopServices>
 #include <QGuiApplication>
@@ -74,7 +77,22 @@ private:
         QObject::connect(
             &*model_, &IslandModel::filesDropped,
             [&delegate](const QList<QUrl> &files) { delegate.filesDroppedOnIsland(files); });
+        connect(*dashboard_->media(), island.media);
         window_.setIsland(*model_, *dashboard_);
+    }
+
+    static void connect(MediaModel &model, MediaPlayback &playback)
+    {
+        const auto on = [&model](auto signal, auto action) {
+            QObject::connect(&model, signal, &model, action);
+        };
+        on(&MediaModel::togglePlayPauseRequested, [&playback] { playback.togglePlayPause(); });
+        on(&MediaModel::nextRequested, [&playback] { playback.nextTrack(); });
+        on(&MediaModel::previousRequested, [&playback] { playback.previousTrack(); });
+        on(&MediaModel::seekRequested, [&playback](double fraction) { playback.seek(fraction); });
+        on(&MediaModel::linkActivated, [](const QUrl &link) { QDesktopServices::openUrl(link); });
+        on(&MediaModel::copyRequested,
+           [](const QString &text) { QGuiApplication::clipboard()->setText(text); });
     }
 
     DBusService &bus_;

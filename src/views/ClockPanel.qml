@@ -13,6 +13,7 @@ Item {
         anchors.top: parent.top
 
         FigureText {
+            anchors.left: parent.left
             text: panel.model.time
             font: Type.display
             color: Ink.content
@@ -20,6 +21,7 @@ Item {
             Accessible.name: text
         }
         Text {
+            anchors.left: parent.left
             text: panel.model.date
             textFormat: Text.PlainText
             font: Type.text
