@@ -32,7 +32,7 @@ Track trackWith(const QString &key, const QVariant &value)
     return playerReport::track({{u"xesam:title"_s, u"Title"_s}, {key, value}}).value();
 }
 
-TEST(PlayerReportTest, TakesALengthOfAnyNumberThatCanBeOne)
+TEST(MprisReportTest, TakesALengthOfAnyNumberThatCanBeOne)
 {
     const QList<std::pair<QVariant, std::optional<double>>> cases{
         {qlonglong(61'500'000), 61.5},
@@ -49,7 +49,7 @@ TEST(PlayerReportTest, TakesALengthOfAnyNumberThatCanBeOne)
         EXPECT_EQ(trackWith(u"mpris:length"_s, told).duration, expected) << told.typeName();
 }
 
-TEST(PlayerReportTest, GivesBackOnlyIdsThatThePlayerCanTake)
+TEST(MprisReportTest, GivesBackOnlyIdsThatThePlayerCanTake)
 {
     const auto path = [](const QVariant &id) { return trackWith(u"mpris:trackid"_s, id).path; };
     EXPECT_EQ(path(QVariant::fromValue(QDBusObjectPath(u"/a/1"_s))), u"/a/1");
@@ -59,7 +59,7 @@ TEST(PlayerReportTest, GivesBackOnlyIdsThatThePlayerCanTake)
         EXPECT_EQ(path(QString::fromUtf8(bad)), QString()) << bad;
 }
 
-TEST(PlayerReportTest, ReadsTextsOfSeveralShapes)
+TEST(MprisReportTest, ReadsTextsOfSeveralShapes)
 {
     const auto artist = [](const QVariant &told) {
         return trackWith(u"xesam:artist"_s, told).artist;
@@ -73,7 +73,7 @@ TEST(PlayerReportTest, ReadsTextsOfSeveralShapes)
     EXPECT_FALSE(playerReport::track({{u"xesam:title"_s, 5}}));
 }
 
-TEST(PlayerReportTest, FindsPicturesOnlyWhereItMayLook)
+TEST(MprisReportTest, FindsPicturesOnlyWhereItMayLook)
 {
     using Kind = ArtSource::Kind;
     const QList<std::tuple<QString, Kind, QString>> cases{
@@ -95,7 +95,7 @@ TEST(PlayerReportTest, FindsPicturesOnlyWhereItMayLook)
     EXPECT_FALSE(data.isSame(playerReport::artSource(u"data:,B"_s)));
 }
 
-TEST(PlayerReportTest, KnowsApplicationsByTheBestName)
+TEST(MprisReportTest, KnowsApplicationsByTheBestName)
 {
     const auto name = playerReport::bundleIdentifier;
     EXPECT_EQ(name({u"firefox-esr"_s, {}}, u"firefox.instance_1_5"_s), u"org.mozilla.firefox");

@@ -2,8 +2,8 @@
 
 #include "platform/HttpClient.h"
 #include "platform/RunLoop.h"
+#include "platform/linux/media/MprisReport.h"
 #include "platform/linux/media/PictureFile.h"
-#include "platform/linux/media/PlayerReport.h"
 
 #include <QImage>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Time.h"
-#include "platform/linux/media/PlayerReport.h"
+#include "platform/linux/media/MprisReport.h"
 
 #include <optional>
 #include <vector>

@@ -174,7 +174,7 @@ void MprisPlayer::failed(const QDBusError &error)
         nextRead_ = runLoop_.after(firstRetry * (1 << failures_++), [this] { read(); });
 }
 
-void MprisPlayer::take(const PlayerReport &report, Instant heardAt)
+void MprisPlayer::take(const MprisReport &report, Instant heardAt)
 {
     failures_ = 0;
     if (!report.track)

@@ -67,7 +67,7 @@ private:
     void askWhoItIs();
     void read();
     void failed(const QDBusError &error);
-    void take(const PlayerReport &report, Instant heardAt);
+    void take(const MprisReport &report, Instant heardAt);
     void moveTo(const Track &track, double rate, std::optional<double> position, Instant heardAt);
     void announceSeek();
     void await(const QDBusMessage &message, const char *complaint);

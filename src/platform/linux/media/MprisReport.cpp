@@ -1,4 +1,4 @@
-#include "platform/linux/media/PlayerReport.h"
+#include "platform/linux/media/MprisReport.h"
 
 #include "platform/PictureDecoder.h"
 #include "platform/linux/core/BundleIdentifiers.h"
@@ -225,9 +225,9 @@ std::optional<Track> track(const QVariantMap &metadata)
     return track;
 }
 
-PlayerReport player(const QVariantMap &properties)
+MprisReport player(const QVariantMap &properties)
 {
-    PlayerReport report;
+    MprisReport report;
     const auto status = text(properties.value(u"PlaybackStatus"_s)).value_or(QString());
     for (const auto &known : statusNames) {
         if (status.compare(known.name, Qt::CaseInsensitive) == 0)

@@ -42,7 +42,7 @@ struct Track {
 enum class PlayerStatus { Unknown, Playing, Paused, Stopped };
 
 /// Everything a player said at one time.
-struct PlayerReport {
+struct MprisReport {
     PlayerStatus status = PlayerStatus::Unknown;
     double rate = 1;                ///< of playing, above 0
     std::optional<double> position; ///< s, as told
@@ -74,7 +74,7 @@ ArtSource artSource(const QString &url);
 /// Absent if the title is no text: then nothing of it can be believed.
 std::optional<Track> track(const QVariantMap &metadata);
 
-PlayerReport player(const QVariantMap &properties);
+MprisReport player(const QVariantMap &properties);
 
 PlayerApplication application(const QVariantMap &properties);
 
