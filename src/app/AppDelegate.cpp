@@ -14,6 +14,7 @@
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
+#include "island/IdleWings.h"
 #include "island/IslandGestures.h"
 #include "monitors/AudioOutputMonitor.h"
 #include "monitors/BrightnessMonitor.h"
@@ -113,9 +114,11 @@ void AppDelegate::createIsland()
     floatingPanel_->onCollapsedScroll = [this](double steps) {
         scrolledOverCollapsedIsland(steps);
     };
-    contentView_ = std::make_unique<ContentView>(platform_.runLoop, settings_, hudManager_,
-                                                 *floatingPanel_, platform_.notificationCenter,
-                                                 platform_.haptics, debugLogger_);
+    wings_ = std::make_unique<IdleWings>(platform_.runLoop, settings_, hudManager_,
+                                         platform_.runningApplications);
+    contentView_ = std::make_unique<ContentView>(
+        platform_.runLoop, settings_, hudManager_, *floatingPanel_, *wings_,
+        platform_.notificationCenter, platform_.haptics, debugLogger_);
     gestures_ = std::make_unique<IslandGestures>(
         platform_.runLoop, settings_, platform_.notificationCenter, hudManager_, *contentView_);
     floatingPanel_->takesScroll = [this](const ScrollEvent &event) {
@@ -128,6 +131,14 @@ void AppDelegate::createIsland()
     claudeCode_ = std::make_unique<ClaudeCodeMonitor>(
         platform_.runLoop, debugLogger_, platform_.messageSocketServer, platform_.userFiles,
         ClaudeCodeMonitor::Places{.home = QDir::homePath()});
+    connect(claudeCode_.get(), &ClaudeCodeMonitor::isActiveChanged, this,
+            [this] { wings_->setAssistantActive(claudeCode_->isActive()); });
+    gestures_->onSkipMedia = [this](int step) {
+        if (step > 0)
+            media_->nextTrack();
+        else
+            media_->previousTrack();
+    };
     if (onIslandCreated)
         onIslandCreated(
             {*floatingPanel_, *contentView_, *outputPicker_, *fileTray_, *media_, *claudeCode_});

@@ -23,6 +23,7 @@ class FileDragWatcher;
 class FileTray;
 class FloatingPanel;
 class HUDManager;
+class IdleWings;
 class IslandDebugLogger;
 class IslandGestures;
 class MediaPlayback;
@@ -107,6 +108,7 @@ private:
     const QString version_;
 
     std::unique_ptr<FloatingPanel> floatingPanel_;
+    std::unique_ptr<IdleWings> wings_;
     std::unique_ptr<ContentView> contentView_;
     std::unique_ptr<IslandGestures> gestures_;
     std::unique_ptr<AudioOutputPicker> outputPicker_;

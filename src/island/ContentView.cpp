@@ -3,6 +3,7 @@
 #include "app/AppEvents.h"
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
+#include "island/IdleWings.h"
 #include "island/IslandDebugLogger.h"
 #include "platform/Haptics.h"
 #include "platform/NotificationCenter.h"
@@ -16,7 +17,6 @@ namespace quillmere {
 namespace {
 
 constexpr QSizeF dashboardSize{600, 220};
-constexpr double wingWidth = 44;
 
 /// Brushing past the edge does not start the countdown.
 constexpr Duration hoverOutGrace = std::chrono::milliseconds(350);
@@ -63,12 +63,14 @@ QSizeF hudSize(HUDContent::HUDType type)
 }
 
 ContentView::ContentView(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
-                         FloatingPanel &panel, NotificationCenter &notificationCenter,
-                         Haptics &haptics, IslandDebugLogger &logger)
+                         FloatingPanel &panel, IdleWings &wings,
+                         NotificationCenter &notificationCenter, Haptics &haptics,
+                         IslandDebugLogger &logger)
     : runLoop_(runLoop)
     , settings_(settings)
     , hudManager_(hudManager)
     , panel_(panel)
+    , wings_(wings)
     , haptics_(haptics)
     , logger_(logger)
     , pages_(runLoop)
@@ -96,17 +98,16 @@ void ContentView::observe(NotificationCenter &notificationCenter)
             lastHUD_.reset();
     });
     connect(&panel_, &FloatingPanel::collapsedSizeChanged, this, &ContentView::updateSize);
-    const auto wingsChanged = [this] {
+    const auto wingsHaveChanged = [this] {
         updateSize();
-        Q_EMIT idleActivityChanged();
+        Q_EMIT wingsChanged();
     };
-    connect(&hudManager_, &HUDManager::hudQueueChanged, this, wingsChanged);
-    connect(&hudManager_, &HUDManager::currentQueueIndexChanged, this, wingsChanged);
-    connect(&settings_, &SettingsStore::didChange, this, [this, wingsChanged](const QString &key) {
+    connect(&wings_, &IdleWings::contentChanged, this, wingsHaveChanged);
+    connect(&hudManager_, &HUDManager::hudQueueChanged, this, wingsHaveChanged);
+    connect(&hudManager_, &HUDManager::currentQueueIndexChanged, this, wingsHaveChanged);
+    connect(&settings_, &SettingsStore::didChange, this, [this](const QString &key) {
         if (key == settings_.showFileTray.key())
             offerPages();
-        else if (key == settings_.idleActivityMostRecent.key())
-            wingsChanged();
     });
 }
 
@@ -128,7 +129,7 @@ Presentation ContentView::presentation() const
 std::optional<HUDContent> ContentView::idleActivity() const
 {
     const auto &queue = hudManager_.hudQueue();
-    if (!settings_.idleActivityMostRecent.get() || queue.isEmpty())
+    if (!wings_.content().activity || queue.isEmpty())
         return std::nullopt;
     return queue.at(hudManager_.currentQueueIndex());
 }
@@ -335,8 +336,8 @@ void ContentView::updateSize()
         size = dashboardSize + QSizeF(0, panel_.housingHeight());
     else if (shownHUD_)
         size = hudSize(shownHUD_->type) + QSizeF(0, panel_.housingHeight());
-    else if (idleActivity())
-        size.rwidth() += 2 * wingWidth;
+    else
+        size.rwidth() += 2 * wings_.content().width();
 
     panel_.setIdle(presentation == Presentation::Collapsed);
     panel_.setSize(size);

@@ -15,6 +15,7 @@ namespace quillmere {
 class FloatingPanel;
 class Haptics;
 class HUDManager;
+class IdleWings;
 class IslandDebugLogger;
 class NotificationCenter;
 class SettingsStore;
@@ -39,8 +40,8 @@ class ContentView : public QObject
 
 public:
     ContentView(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
-                FloatingPanel &panel, NotificationCenter &notificationCenter, Haptics &haptics,
-                IslandDebugLogger &logger);
+                FloatingPanel &panel, IdleWings &wings, NotificationCenter &notificationCenter,
+                Haptics &haptics, IslandDebugLogger &logger);
 
     bool isExpanded() const { return isExpanded_; }
     /// The present expansion was asked for by the user, not by a HUD.
@@ -52,7 +53,8 @@ public:
     /// stays although its time is over.
     const std::optional<HUDContent> &shownHUD() const { return shownHUD_; }
 
-    /// The activity in the wings of the collapsed pill.
+    /// What the wings of the collapsed pill show, and the activity if it is one.
+    const IdleWings &wings() const { return wings_; }
     std::optional<HUDContent> idleActivity() const;
 
     bool isDraggingFile() const { return isDraggingFile_; }
@@ -76,7 +78,7 @@ Q_SIGNALS:
     void presentationChanged();
     void islandSizeChanged();
     void shownHUDChanged();
-    void idleActivityChanged();
+    void wingsChanged();
     void draggingChanged();
 
 private:
@@ -106,6 +108,7 @@ private:
     SettingsStore &settings_;
     HUDManager &hudManager_;
     FloatingPanel &panel_;
+    IdleWings &wings_;
     Haptics &haptics_;
     IslandDebugLogger &logger_;
     IslandPages pages_;

@@ -3,6 +3,7 @@
 #include "app/AppEvents.h"
 #include "island/ContentView.h"
 #include "island/HUDManager.h"
+#include "island/IdleWings.h"
 #include "platform/NotificationCenter.h"
 #include "settings/SettingsStore.h"
 
@@ -42,6 +43,9 @@ void IslandGestures::scrolledSideways(const QString &direction)
     case Presentation::Collapsed:
         if (contentView_.idleActivity())
             stepActivity(step);
+        else if (contentView_.wings().content().media && settings_.swipeToSkipMedia.get() &&
+                 onSkipMedia)
+            onSkipMedia(step);
         break;
     case Presentation::HUD:
         break;

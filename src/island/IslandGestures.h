@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace quillmere {
 
 class ContentView;
@@ -16,8 +18,8 @@ class SettingsStore;
 /// What fingers and wheels do to the island.
 ///
 /// Sideways: pages of the open dashboard (activities, when it has but one page), and activities in
-/// the pill's wings. Up and down on a touchpad: opens and closes, and dismisses what a HUD or the
-/// wings show. `naturalMovement` turns every direction round. Main thread only.
+/// the pill's wings, or tracks. Up and down on a touchpad: opens and closes, and dismisses what a
+/// HUD or the wings show. `naturalMovement` turns every direction round. Main thread only.
 class IslandGestures
 {
 public:
@@ -27,6 +29,9 @@ public:
 
     /// True: the event belongs to a swipe, and must not do anything else besides.
     bool takesScroll(const ScrollEvent &event);
+
+    /// A swipe over the playing track in the wings, 1 or -1: to the next track or the previous one.
+    std::function<void(int step)> onSkipMedia;
 
 private:
     void scrolledSideways(const QString &direction);

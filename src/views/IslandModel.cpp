@@ -52,7 +52,7 @@ IslandModel::IslandModel(HUDManager &hudManager, ContentView &contentView, Float
     , appearance_(appearance)
 {
     connect(&contentView_, &ContentView::shownHUDChanged, this, &IslandModel::updateHUD);
-    connect(&contentView_, &ContentView::idleActivityChanged, this, &IslandModel::updateWings);
+    connect(&contentView_, &ContentView::wingsChanged, this, &IslandModel::updateWings);
     connect(&hudManager_, &HUDManager::isOvershootChanged, this, &IslandModel::overshootChanged);
     connect(&contentView_, &ContentView::islandSizeChanged, this, &IslandModel::updateShape);
     connect(&contentView_, &ContentView::presentationChanged, this, [this] {
@@ -167,20 +167,14 @@ void IslandModel::wheel(const QPointF &pixelDelta, const QPointF &angleDelta, bo
 
 void IslandModel::updateWings()
 {
-    const auto activity = contentView_.presentation() == Presentation::Collapsed
-                              ? contentView_.idleActivity()
-                              : std::nullopt;
-    if (!activity && !showsWings_)
-        return;
-    const bool isMedia = activity && activity == hudManager_.currentNowPlaying();
-    if (isMedia && showsWings_ && wingsShowMedia_)
-        return; // what changes about a track is told by its own model
-    showsWings_ = activity.has_value();
-    if (activity) // what fades out stays as it was
-        wingsShowMedia_ = isMedia;
-    if (activity && !isMedia)
+    const WingContent content = contentView_.wings().content();
+    const bool isCollapsed = contentView_.presentation() == Presentation::Collapsed;
+    if (const auto activity = contentView_.idleActivity(); activity && isCollapsed)
         wings_.setFace(hudFace(*activity, hudLook(settings_), desktopAccent(appearance_)));
-    Q_EMIT wingsChanged();
+    const bool shows = isCollapsed && content != WingContent();
+    const bool changed = std::exchange(showsWings_, shows) != shows;
+    if (shows ? std::exchange(shownWings_, content) != content || changed : changed)
+        Q_EMIT wingsChanged();
 }
 
 void IslandModel::updateShape()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "island/HUDContent.h"
+#include "island/IdleWings.h"
 #include "platform/Task.h"
 #include "views/FaceModel.h"
 
@@ -51,6 +52,7 @@ class IslandModel : public QObject
     Q_PROPERTY(double surfaceAlpha READ surfaceAlpha NOTIFY surfaceChanged FINAL)
     Q_PROPERTY(bool showsWings READ showsWings NOTIFY wingsChanged FINAL)
     Q_PROPERTY(bool wingsShowMedia READ wingsShowMedia NOTIFY wingsChanged FINAL)
+    Q_PROPERTY(bool wingsShowAssistant READ wingsShowAssistant NOTIFY wingsChanged FINAL)
     Q_PROPERTY(quillmere::FaceModel *wings READ wings CONSTANT FINAL)
     Q_PROPERTY(QString accessibleText READ accessibleText NOTIFY accessibleTextChanged FINAL)
 
@@ -76,7 +78,8 @@ public:
     /// The activity in the wings of the pill.
     bool showsWings() const { return showsWings_; }
     /// That activity is the playing track; otherwise it has its face.
-    bool wingsShowMedia() const { return wingsShowMedia_; }
+    bool wingsShowMedia() const { return shownWings_.media; }
+    bool wingsShowAssistant() const { return shownWings_.assistant; }
     FaceModel *wings() { return &wings_; }
     QString accessibleText() const;
 
@@ -132,7 +135,7 @@ private:
     int lastFace_ = 0;
     int contentDelay_ = 0;
     bool showsWings_ = false;
-    bool wingsShowMedia_ = false;
+    WingContent shownWings_; ///< what fades out stays as it was
     FaceModel wings_;
     bool pointerInside_ = false;
     Task appearanceObserver_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/AudioStreams.h"
+#include "platform/Listeners.h"
 #include "platform/MediaRemote.h"
 #include "platform/RunLoop.h"
 #include "platform/RunningApplications.h"
@@ -83,10 +84,23 @@ class FakeRunningApplications : public RunningApplications
 {
 public:
     QStringList running() const override { return list; }
-    QString frontmost() const override { return {}; }
-    Task onChanged(std::function<void()>) override { return {}; }
+    QString frontmost() const override { return front; }
+    Task onChanged(std::function<void()> listener) override
+    {
+        return listeners_.add(std::move(listener));
+    }
+
+    void activate(const QString &application)
+    {
+        front = application;
+        listeners_.notify();
+    }
 
     QStringList list;
+    QString front;
+
+private:
+    Listeners<> listeners_;
 };
 
 /// Applications that make sound as the test says. Answers when the run loop settles.

@@ -5,12 +5,14 @@
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
+#include "island/IdleWings.h"
 #include "island/IslandDebugLogger.h"
 #include "island/IslandGestures.h"
 #include "support/FakeAppearance.h"
 #include "support/FakeAudioHardware.h"
 #include "support/FakeGlobalEvents.h"
 #include "support/FakeHaptics.h"
+#include "support/FakeMedia.h"
 #include "support/FakePanelWindow.h"
 #include "support/FakeScreens.h"
 #include "support/ManualRunLoop.h"
@@ -48,7 +50,10 @@ struct IslandFixture {
     HUDManager hud{runLoop, settings, logger};
     FloatingPanel panel{runLoop, screens, events, fixture.notifications, panelWindow, settings};
     FakeHaptics haptics;
-    ContentView content{runLoop, settings, hud, panel, fixture.notifications, haptics, logger};
+    FakeRunningApplications applications;
+    IdleWings wings{runLoop, settings, hud, applications};
+    ContentView content{runLoop, settings, hud, panel, wings, fixture.notifications,
+                        haptics, logger};
     IslandGestures gestures{runLoop, settings, fixture.notifications, hud, content};
     FakeAppearance appearance;
     IslandModel island{hud, content, panel, settings, appearance};

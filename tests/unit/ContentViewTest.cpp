@@ -327,6 +327,58 @@ TEST_F(ContentViewTest, ActivitiesLiveInTheWingsAndCanBeCycledAndDismissed)
     EXPECT_EQ(hud.hudQueue().size(), 1);
 }
 
+TEST_F(ContentViewTest, WingsShowTheTrackAndTheAssistantWhileThereIsSomethingToTell)
+{
+    const auto play = [this](bool isPlaying, const char *source = "com.spotify.client") {
+        hud.updateNowPlaying({.title = QStringLiteral("A Song"),
+                              .bundleID = QString::fromUtf8(source),
+                              .isPlaying = isPlaying},
+                             10, 200);
+    };
+    const auto width = [this] { return content.islandSize().width(); };
+    settings.idleActivityMostRecent.set(true);
+    file(HUDContent::HUDType::Email, "Mail");
+    runLoop.advance(2s);
+    EXPECT_TRUE(content.idleActivity());
+    play(true);
+    EXPECT_TRUE(wings.content().media);
+    EXPECT_FALSE(content.idleActivity()); // what plays goes before
+    EXPECT_EQ(width(), 126 + 88);
+    int skipped = 0;
+    gestures.onSkipMedia = [&](int step) { skipped = step; };
+    swipe(-20, 0);
+    EXPECT_EQ(skipped, 1);
+
+    wings.setAssistantActive(true);
+    EXPECT_EQ(width(), 126 + 88); // they share
+    settings.idleActivityType.set(IdleActivityType::None);
+    EXPECT_EQ(width(), 126 + 168);
+    wings.setAssistantActive(false);
+    EXPECT_TRUE(content.idleActivity());
+    settings.idleActivityType.set(IdleActivityType::Duo);
+
+    settings.nowPlayingIdleDuration.set(3);
+    play(false);
+    runLoop.advance(2s);
+    play(false); // each poll says so
+    runLoop.advance(999ms);
+    EXPECT_TRUE(wings.content().media);
+    runLoop.advance(1ms);
+    EXPECT_FALSE(wings.content().media);
+    EXPECT_TRUE(hud.currentNowPlaying());
+    play(true);
+    EXPECT_TRUE(wings.content().media);
+
+    applications.activate(QStringLiteral("com.spotify.client"));
+    EXPECT_TRUE(wings.content().media);
+    settings.hideWhileSourceAppActive.set(true);
+    EXPECT_FALSE(wings.content().media);
+    applications.activate(QStringLiteral("org.kde.dolphin"));
+    EXPECT_TRUE(wings.content().media);
+    settings.showMediaHUD.set(false);
+    EXPECT_FALSE(wings.content().media);
+}
+
 // Whatever happens in whatever order: what is open closes once nobody holds it any more, exactly
 // when the last countdown says.
 TEST_F(ContentViewTest, RandomWalkNeverLeavesTheIslandOpenOrClosesItUnderTheHand)
