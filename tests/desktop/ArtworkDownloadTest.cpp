@@ -1,11 +1,11 @@
 #include "nowplaying/NowPlayingArtworkService.h"
 #include "platform/linux/core/QtRunLoop.h"
 #include "platform/linux/net/QtHttpClient.h"
+#include "support/Eventually.h"
 #include "support/FakeMedia.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QTcpServer>
 #include <QTcpSocket>
 
@@ -91,12 +91,6 @@ TEST(ArtworkDownloadTest, OnlyGoodPicturesAreShown)
                       {mediaInfo::albumStoreIdentifier, album}};
         service->fetch([&record](const auto &info) { record = info; });
         media.answer();
-    };
-    const auto eventually = [&runLoop](const std::function<bool()> &condition) {
-        const Task wake = runLoop.every(5ms, 0ms, [] {});
-        for (const QDeadlineTimer limit(20s); !condition() && !limit.hasExpired();)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        return condition();
     };
     for (int album = 1; album < 8; ++album) {
         fetch(album);

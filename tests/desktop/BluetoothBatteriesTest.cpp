@@ -2,6 +2,7 @@
 
 #include "platform/linux/core/QtRunLoop.h"
 #include "support/BusServer.h"
+#include "support/Eventually.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +10,6 @@
 #include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
-#include <QDeadlineTimer>
-#include <QTimer>
 
 #include <sys/prctl.h>
 
@@ -21,20 +20,6 @@ using namespace std::chrono_literals;
 
 const QString address = QStringLiteral("AA:BB:CC:DD:EE:FF");
 const QString mock = QStringLiteral("org.freedesktop.DBus.Mock");
-
-template <class Predicate>
-bool waitUntil(Predicate isDone)
-{
-    QTimer wake;
-    wake.start(5);
-    const QDeadlineTimer deadline(20s);
-    while (!isDone()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return true;
-}
 
 /// A service of the system bus, with the objects and signals of the real one.
 class MockService
@@ -63,7 +48,7 @@ public:
             return call(path_, QStringLiteral("org.freedesktop.DBus.Peer"), "Ping", {}).type() ==
                    QDBusMessage::ReplyMessage;
         };
-        if (!waitUntil(ping))
+        if (!eventually(ping))
             throw std::runtime_error("no mock of " + name_.toStdString());
     }
     void stop()
@@ -135,7 +120,7 @@ struct BluetoothBatteriesTest : testing::Test {
 
     bool waitFor(std::optional<int> percent)
     {
-        return waitUntil([&] { return batteries.percent(address) == percent; });
+        return eventually([&] { return batteries.percent(address) == percent; });
     }
 
     const QString batteryInterface = QStringLiteral("org.bluez.Battery1");
@@ -186,7 +171,7 @@ TEST_F(BluetoothBatteriesTest, FollowBlueZThroughItsLifeAndOnlyWhileSomebodyList
         if (batteries.percent(address) == 76)
             task.cancel();
     });
-    EXPECT_TRUE(waitUntil([&] { return !task; }));
+    EXPECT_TRUE(eventually([&] { return !task; }));
     EXPECT_TRUE(waitFor(std::nullopt));
     EXPECT_EQ(changes, before);
     EXPECT_EQ(opened, 1);

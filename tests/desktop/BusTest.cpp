@@ -3,13 +3,13 @@
 #include "platform/linux/dbus/DBusService.h"
 #include "platform/linux/dbus/IslandProperties.h"
 #include "support/BusServer.h"
+#include "support/Eventually.h"
 #include "support/LogCapture.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
-#include <QDeadlineTimer>
 #include <QRect>
 
 #include <vector>
@@ -124,19 +124,6 @@ protected:
         bool stopped = false;
         service.stop([&stopped] { stopped = true; });
         ASSERT_TRUE(eventually([&stopped] { return stopped; }));
-    }
-
-    /// Lets the event loop run until `condition` holds; false after 20 s.
-    bool eventually(const std::function<bool()> &condition)
-    {
-        const Task wake = runLoop_.every(5ms, 0ms, [] {});
-        const QDeadlineTimer limit(20s);
-        while (!condition()) {
-            if (limit.hasExpired())
-                return false;
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
-        return true;
     }
 
     QtRunLoop runLoop_;

@@ -2,11 +2,11 @@
 #include "platform/linux/appearance/FeedbackdHaptics.h"
 
 #include "support/BusServer.h"
+#include "support/Eventually.h"
 #include "support/RealFiles.h"
 
 #include <QDBusArgument>
 #include <QDBusMetaType>
-#include <QDeadlineTimer>
 
 #include <gmock/gmock.h>
 
@@ -109,14 +109,7 @@ protected:
 
     bool eventually(const std::function<bool()> &condition)
     {
-        const QDeadlineTimer limit(20s);
-        while (!condition()) {
-            if (limit.hasExpired())
-                return false;
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-            loop.advance(10ms);
-        }
-        return true;
+        return quillmere::eventually(condition, [this] { loop.advance(10ms); });
     }
 
     /// Until everything that was asked of the bus so far is answered.

@@ -1,9 +1,9 @@
 #include "platform/linux/display/LinuxDisplayBrightness.h"
 
 #include "monitors/BrightnessMonitor.h"
+#include "support/Eventually.h"
 #include "support/RealFiles.h"
 
-#include <QDeadlineTimer>
 #include <QProcess>
 
 #include <gmock/gmock.h>
@@ -61,17 +61,9 @@ protected:
         file.write(brightness);
     }
 
-    /// Events and processes come from outside, so their waits are real; false after 20 s.
     bool eventually(const std::function<bool()> &condition)
     {
-        const QDeadlineTimer limit(20s);
-        while (!condition()) {
-            if (limit.hasExpired())
-                return false;
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-            loop.settle();
-        }
-        return true;
+        return quillmere::eventually(condition, [this] { loop.settle(); });
     }
 
     /// A display bus that may be used, and a helper that runs `script`.

@@ -1,10 +1,10 @@
 #include "platform/Endpoints.h"
 #include "platform/linux/core/QtRunLoop.h"
 #include "platform/linux/net/QtHttpClient.h"
+#include "support/Eventually.h"
 #include "support/LogCapture.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QTcpServer>
 #include <QTcpSocket>
 
@@ -118,18 +118,6 @@ protected:
         EXPECT_FALSE(result) << "told from within send()";
         EXPECT_TRUE(eventually([&result] { return result.has_value(); }));
         return result.value_or(HttpResponse{});
-    }
-
-    bool eventually(const std::function<bool()> &condition)
-    {
-        const Task wake = runLoop_.every(5ms, 0ms, [] {});
-        const QDeadlineTimer limit(20s);
-        while (!condition()) {
-            if (limit.hasExpired())
-                return false;
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
-        return true;
     }
 
     QtRunLoop runLoop_;

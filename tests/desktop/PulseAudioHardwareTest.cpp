@@ -3,6 +3,7 @@
 #include "monitors/AudioOutputMonitor.h"
 #include "monitors/VolumeMonitor.h"
 #include "platform/linux/core/QtRunLoop.h"
+#include "support/Eventually.h"
 #include "support/ManualRunLoop.h"
 #include "support/PulseServer.h"
 
@@ -10,11 +11,9 @@
 #include <pulse/mainloop.h>
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTimer>
 
 #include <unistd.h>
 
@@ -34,23 +33,6 @@ constexpr bool memoryIsMeasurable = true;
 
 const QString speakers = QStringLiteral("speakers");
 const QString headphones = QStringLiteral("bluez_sink.AA_BB_CC_DD_EE_FF.a2dp_sink");
-
-/// Runs the event loop until `isDone`, up to 20 s. `tick` runs in between.
-template <class Predicate>
-bool waitUntil(Predicate isDone, const std::function<void()> &tick = nullptr)
-{
-    QTimer wake;
-    wake.start(5);
-    const QDeadlineTimer deadline(20s);
-    while (!isDone()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        if (tick)
-            tick();
-    }
-    return true;
-}
 
 /// Another client of the server, as fast as one can be.
 class VolumeStorm
@@ -133,7 +115,7 @@ struct PulseAudioHardwareTest : testing::Test {
             [this](bool available) { events.emplace_back(available ? "available" : "away"); });
         defaultTask =
             hardware->onDefaultOutputChanged([this] { events.emplace_back("default"); }).value();
-        ASSERT_TRUE(waitUntil([this] { return hardware->isAvailable(); }));
+        ASSERT_TRUE(eventually([this] { return hardware->isAvailable(); }));
     }
 
     void listen()
@@ -147,7 +129,7 @@ struct PulseAudioHardwareTest : testing::Test {
     std::optional<float> level() { return hardware->volume(device, VirtualMainVolume); }
     bool waitForLevel(float expected)
     {
-        return waitUntil([this, expected] { return level() == expected; });
+        return eventually([this, expected] { return level() == expected; });
     }
 
     /// The channels of "speakers" in percent, and "muted".
@@ -235,14 +217,14 @@ TEST_F(PulseAudioHardwareTest, FollowsTheDefaultSink)
     events.clear();
     server.pactl(QStringLiteral("set-sink-volume ") + headphones + QStringLiteral(" 20%"));
     server.pactl(QStringLiteral("set-default-sink ") + headphones);
-    ASSERT_TRUE(waitUntil([this] { return hardware->defaultOutputDevice() != device; }));
+    ASSERT_TRUE(eventually([this] { return hardware->defaultOutputDevice() != device; }));
     const AudioDeviceID second = hardware->defaultOutputDevice();
     EXPECT_EQ(hardware->volume(second, VirtualMainVolume), 0.2F);
     EXPECT_EQ(hardware->volume(second, VolumeScalar), 0.2F);
     EXPECT_EQ(level(), std::nullopt);
 
     server.pactl(QStringLiteral("set-default-sink speakers"));
-    ASSERT_TRUE(waitUntil([&] { return hardware->defaultOutputDevice() != second; }));
+    ASSERT_TRUE(eventually([&] { return hardware->defaultOutputDevice() != second; }));
     EXPECT_EQ(hardware->defaultOutputDevice(), device);
     EXPECT_THAT(events, ElementsAre("default", "default"));
     EXPECT_THAT(levels, IsEmpty());
@@ -259,12 +241,12 @@ TEST_F(PulseAudioHardwareTest, SurvivesTheLossOfEverySinkAndTellsWhenThereIsOneA
     for (int round = 0; round < 2; ++round) {
         events.clear();
         const QString module = server.loadSink(speakers);
-        ASSERT_TRUE(waitUntil([this] { return hardware->defaultOutputDevice() != 0; }));
+        ASSERT_TRUE(eventually([this] { return hardware->defaultOutputDevice() != 0; }));
         EXPECT_THAT(events, ElementsAre("default", "available"));
         EXPECT_THAT(ids, testing::Not(testing::Contains(hardware->defaultOutputDevice())));
         ids.push_back(hardware->defaultOutputDevice());
         server.pactl(QStringLiteral("unload-module ") + module);
-        ASSERT_TRUE(waitUntil([this] { return hardware->defaultOutputDevice() == 0; }));
+        ASSERT_TRUE(eventually([this] { return hardware->defaultOutputDevice() == 0; }));
         EXPECT_TRUE(hardware->isAvailable());
         EXPECT_EQ(hardware->volume(ids.back(), VirtualMainVolume), std::nullopt);
     }
@@ -285,18 +267,18 @@ TEST_F(PulseAudioHardwareTest, ACrashedServerThatComesBackMakesNoEventUntilTheNe
         events.clear();
         reports.clear();
         server.kill();
-        ASSERT_TRUE(waitUntil([this] { return !hardware->isAvailable(); }));
+        ASSERT_TRUE(eventually([this] { return !hardware->isAvailable(); }));
         EXPECT_EQ(hardware->defaultOutputDevice(), 0U);
         EXPECT_FALSE(monitor.isRunning());
         hardware->setVolume(device, 0.5F);
 
         server.start({speakers});
-        ASSERT_TRUE(waitUntil([this] { return hardware->isAvailable(); }));
+        ASSERT_TRUE(eventually([this] { return hardware->isAvailable(); }));
         EXPECT_THAT(events, ElementsAre("default", "away", "default", "available"));
         EXPECT_NE(hardware->defaultOutputDevice(), device);
         EXPECT_TRUE(monitor.isRunning());
         server.pactl(QStringLiteral("set-sink-volume speakers 42%"));
-        ASSERT_TRUE(waitUntil([&] { return !reports.empty(); }));
+        ASSERT_TRUE(eventually([&] { return !reports.empty(); }));
         EXPECT_THAT(reports, ElementsAre(42));
     }
 }
@@ -322,7 +304,7 @@ TEST_F(PulseAudioHardwareTest, AnAbsentServerCostsLittleAndIsMetAsSoonAsItComes)
 
     // Too little time passes on its clock for an attempt of the back-off to fall due.
     server.start({speakers});
-    EXPECT_TRUE(waitUntil([&] { return late.isAvailable(); }, [&] { slowLoop.advance(2ms); }));
+    EXPECT_TRUE(eventually([&] { return late.isAvailable(); }, [&] { slowLoop.advance(2ms); }));
 }
 
 TEST_F(PulseAudioHardwareTest, ABurstOfChangesEndsAtTheLastAndCostsNoMemory)
@@ -336,7 +318,7 @@ TEST_F(PulseAudioHardwareTest, ABurstOfChangesEndsAtTheLastAndCostsNoMemory)
             VolumeStorm().blow(changes, lastPercent);
             isOver = true;
         });
-        EXPECT_TRUE(waitUntil([&] { return isOver.load(); }));
+        EXPECT_TRUE(eventually([&] { return isOver.load(); }));
         EXPECT_TRUE(waitForLevel(static_cast<float>(lastPercent) / 100));
         EXPECT_FALSE(levels.empty());
         levels.clear();
@@ -365,7 +347,7 @@ TEST_F(PulseAudioHardwareTest, EventsWhileAQuestionIsUnderWayCostExactlyOneMore)
                       },
                   .lost = [&] { sink.reset(); },
                   .changed = [](const auto &) {}});
-    EXPECT_TRUE(waitUntil([&] { return answers >= 2; }));
+    EXPECT_TRUE(eventually([&] { return answers >= 2; }));
     server.pactl(QStringLiteral("info")); // whatever else was asked would be answered by now
     for (int event = 0; event < 100; ++event)
         QCoreApplication::processEvents();
@@ -409,7 +391,7 @@ struct OutputsTest : PulseAudioHardwareTest, testing::WithParamInterface<Headset
     }
     bool waitForOutputs(const std::string &expected)
     {
-        return waitUntil([&] { return outputs() == expected; });
+        return eventually([&] { return outputs() == expected; });
     }
 
     /// The name of the sink that our player's stream is on.
@@ -448,17 +430,17 @@ TEST_P(OutputsTest, AreListedDescribedAndChosen)
     };
     monitor.start();
     player.start(QStringLiteral("pacat"), {QStringLiteral("--raw"), QStringLiteral("/dev/zero")});
-    ASSERT_TRUE(waitUntil([this] { return sinkOfStream() == speakers; }));
+    ASSERT_TRUE(eventually([this] { return sinkOfStream() == speakers; }));
     hardware->setDefaultOutput(airPods->id + 100);
     hardware->setDefaultOutput(airPods->id);
     EXPECT_TRUE(waitForOutputs("AirPods Pro*, Desk")) << outputs();
-    EXPECT_TRUE(waitUntil([&] { return sinkOfStream() == QLatin1StringView(GetParam().name); }));
-    EXPECT_TRUE(waitUntil([&] { return !reports.empty(); }));
+    EXPECT_TRUE(eventually([&] { return sinkOfStream() == QLatin1StringView(GetParam().name); }));
+    EXPECT_TRUE(eventually([&] { return !reports.empty(); }));
 
     server.pactl(QStringLiteral("unload-module ") + headset);
     EXPECT_TRUE(waitForOutputs("Desk*")) << outputs();
     EXPECT_EQ(hardware->describe(airPods->id), std::nullopt);
-    EXPECT_TRUE(waitUntil([&] { return monitor.lastBluetoothDeviceID() == 0; }));
+    EXPECT_TRUE(eventually([&] { return monitor.lastBluetoothDeviceID() == 0; }));
     EXPECT_THAT(reports, ElementsAre("AirPods Pro!"));
 }
 
@@ -475,7 +457,7 @@ TEST_P(OutputsTest, AreTheNewServersAfterACrashAndNoneWithoutAListener)
     EXPECT_THAT(hardware->outputs(), IsEmpty());
     server.loadSink(QStringLiteral("late"), QStringLiteral("device.description=Late"));
     outputsTask = hardware->onOutputsChanged([] {});
-    EXPECT_TRUE(waitUntil([this] { return hardware->outputs().size() == 2; })) << outputs();
+    EXPECT_TRUE(eventually([this] { return hardware->outputs().size() == 2; })) << outputs();
 }
 
 // A headset told by its bus, by its name alone, and by its driver.

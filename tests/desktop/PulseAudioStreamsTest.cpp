@@ -1,14 +1,13 @@
 #include "platform/linux/audio/PulseAudioStreams.h"
 
 #include "platform/linux/core/QtRunLoop.h"
+#include "support/Eventually.h"
 #include "support/PulseServer.h"
 
 #include <gtest/gtest.h>
 #include <pulse/stream.h>
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QTimer>
 
 #include <optional>
 #include <vector>
@@ -60,24 +59,13 @@ struct PulseAudioStreamsTest : testing::TestWithParam<bool> {
         streams.emplace(runLoop, *hardware);
     }
 
-    template <class Predicate>
-    bool waitUntil(Predicate isDone)
-    {
-        QTimer wake;
-        wake.start(5);
-        const QDeadlineTimer deadline(20s);
-        while (!isDone() && !deadline.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        return isDone();
-    }
-
     bool isPlaying(const char *bundleIdentifier)
     {
         std::optional<bool> answer;
         streams->isPlaying(QString::fromLatin1(bundleIdentifier), owner,
                            [&answer](bool given) { answer = given; });
         EXPECT_FALSE(answer) << "answered from within";
-        EXPECT_TRUE(waitUntil([&answer] { return answer.has_value(); }));
+        EXPECT_TRUE(eventually([&answer] { return answer.has_value(); }));
         return answer.value_or(false);
     }
 
@@ -95,13 +83,13 @@ struct PulseAudioStreamsTest : testing::TestWithParam<bool> {
 TEST_P(PulseAudioStreamsTest, TellWhoPlays)
 {
     EXPECT_FALSE(isPlaying("com.google.Chrome"));
-    ASSERT_TRUE(waitUntil([this] { return hardware->isAvailable(); }));
+    ASSERT_TRUE(eventually([this] { return hardware->isAvailable(); }));
     EXPECT_FALSE(isPlaying("com.google.Chrome"));
     const Player chromium(*hardware->context(), "application.process.binary=chromium");
-    ASSERT_TRUE(waitUntil([&] { return chromium.isReady(); }));
+    ASSERT_TRUE(eventually([&] { return chromium.isReady(); }));
     EXPECT_FALSE(isPlaying("com.google.Chrome"));
     chromium.setPaused(false);
-    EXPECT_TRUE(waitUntil([this] { return isPlaying("com.google.Chrome"); }));
+    EXPECT_TRUE(eventually([this] { return isPlaying("com.google.Chrome"); }));
     EXPECT_FALSE(isPlaying("org.mozilla.firefox"));
 
     const auto stream = server.pactl(QStringLiteral("list short sink-inputs")).section(u'\t', 0, 0);
@@ -112,12 +100,12 @@ TEST_P(PulseAudioStreamsTest, TellWhoPlays)
     server.pactl(QStringLiteral("set-sink-input-mute %1 0").arg(stream));
     EXPECT_TRUE(isPlaying("com.google.Chrome"));
     chromium.setPaused(true);
-    EXPECT_TRUE(waitUntil([this] { return !isPlaying("com.google.Chrome"); }));
+    EXPECT_TRUE(eventually([this] { return !isPlaying("com.google.Chrome"); }));
 }
 
 TEST_P(PulseAudioStreamsTest, AnswerAlsoWhenTheServerDiesAndOnlyToTheLiving)
 {
-    ASSERT_TRUE(waitUntil([this] { return hardware->isAvailable(); }));
+    ASSERT_TRUE(eventually([this] { return hardware->isAvailable(); }));
     int answers = 0;
     const auto count = [&answers](bool isPlaying) { answers += isPlaying ? 100 : 1; };
     std::optional<Owner> dead(std::in_place);
@@ -125,12 +113,12 @@ TEST_P(PulseAudioStreamsTest, AnswerAlsoWhenTheServerDiesAndOnlyToTheLiving)
     streams->isPlaying(QStringLiteral("b"), owner, count);
     dead.reset();
     server.kill();
-    EXPECT_TRUE(waitUntil([&answers] { return answers == 1; })) << answers;
+    EXPECT_TRUE(eventually([&answers] { return answers == 1; })) << answers;
 
     streams->isPlaying(QStringLiteral("c"), owner, count);
     streams.reset();
     hardware.reset();
-    EXPECT_TRUE(waitUntil([&answers] { return answers == 2; })) << answers;
+    EXPECT_TRUE(eventually([&answers] { return answers == 2; })) << answers;
 }
 
 INSTANTIATE_TEST_SUITE_P(Servers, PulseAudioStreamsTest, testing::Bool(),

@@ -1,10 +1,10 @@
 #include "platform/linux/window/X11RunningApplications.h"
 
+#include "support/Eventually.h"
 #include "support/X11Inspector.h"
 #include "support/XServer.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 
 #include <gtest/gtest.h>
 
@@ -12,18 +12,6 @@ namespace quillmere {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-template <class Condition>
-bool eventually(Condition condition)
-{
-    const QDeadlineTimer deadline(15'000);
-    while (!condition()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-    }
-    return true;
-}
 
 TEST(RunningApplicationsTest, FollowTheWindowsOfADesktop)
 {

@@ -1,9 +1,8 @@
 #include "platform/linux/scripts/ChildProcess.h"
 #include "platform/linux/scripts/ProcessScriptRunner.h"
 
+#include "support/Eventually.h"
 #include "support/RealFiles.h"
-
-#include <QDeadlineTimer>
 
 #include <gmock/gmock.h>
 
@@ -45,17 +44,9 @@ struct ScriptRunnerTest : RealFiles {
         ::chmod(qPrintable(path(name)), mode);
     }
 
-    /// Processes end in their own time, so their waits are real; false after 20 s.
     bool eventually(const std::function<bool()> &condition)
     {
-        const QDeadlineTimer limit(20s);
-        while (!condition()) {
-            if (limit.hasExpired())
-                return false;
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-            loop.settle();
-        }
-        return true;
+        return quillmere::eventually(condition, [this] { loop.settle(); });
     }
 
     Task ask(QLatin1StringView question, const QStringList &arguments = {})

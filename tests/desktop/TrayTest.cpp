@@ -2,12 +2,12 @@
 #include "platform/linux/dbus/BusNames.h"
 #include "platform/linux/tray/TrayStatusItem.h"
 #include "support/BusServer.h"
+#include "support/Eventually.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
 #include <QDBusServiceWatcher>
-#include <QDeadlineTimer>
 
 #include <gmock/gmock.h>
 
@@ -123,18 +123,6 @@ protected:
         const auto answer = ask(QStringLiteral("/StatusNotifierItem"), bus::propertiesInterface,
                                 "GetAll", {itemInterface});
         return qdbus_cast<QVariantMap>(answer.arguments().value(0));
-    }
-
-    bool eventually(const std::function<bool()> &condition)
-    {
-        const Task wake = runLoop_.every(5ms, 0ms, [] {});
-        const QDeadlineTimer limit(20s);
-        while (!condition()) {
-            if (limit.hasExpired())
-                return false;
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
-        return true;
     }
 
     QtRunLoop runLoop_;

@@ -1,6 +1,7 @@
 #include "platform/linux/window/X11DragPasteboard.h"
 #include "platform/linux/window/X11GlobalEvents.h"
 #include "platform/linux/window/X11PanelWindow.h"
+#include "support/Eventually.h"
 #include "support/LogCapture.h"
 #include "support/XServer.h"
 #include "views/DropTarget.h"
@@ -13,18 +14,6 @@
 
 namespace quillmere {
 namespace {
-
-template <class Condition>
-bool eventually(Condition condition)
-{
-    QDeadlineTimer deadline(15'000);
-    while (!condition()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
-    }
-    return true;
-}
 
 /// A private display with a window manager, and the application on it.
 class Desktop : public ::testing::Environment

@@ -6,11 +6,11 @@
 #include "platform/linux/window/PanelShape.h"
 #include "platform/linux/window/QtScreens.h"
 #include "platform/linux/window/X11GlobalEvents.h"
+#include "support/Eventually.h"
 #include "support/SettingsFixture.h"
 #include "support/X11Inspector.h"
 #include "support/XServer.h"
 
-#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QRasterWindow>
@@ -25,19 +25,6 @@ using namespace Qt::StringLiterals;
 
 const QRect areaA(0, 0, 1512, 982);
 const QRect areaB(1512, 0, 1920, 1080);
-
-template <class Condition>
-bool eventually(Condition condition)
-{
-    QDeadlineTimer deadline(15'000);
-    while (!condition()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
-        QThread::msleep(2);
-    }
-    return true;
-}
 
 /// A virtual display with two monitors and a window manager, and the application on it.
 class Desktop : public ::testing::Environment
