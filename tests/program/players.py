@@ -1,0 +1,190 @@
+"""Media players on a private desktop: real ones with generated tracks, and one that plays by script."""
+
+import subprocess
+import threading
+import time
+from pathlib import Path
+
+from gi.repository import Gio, GLib
+
+from desktop import end_process, wait_until
+from island import BUS_NAME
+
+MPRIS = "org.mpris.MediaPlayer2"
+PLAYER = MPRIS + ".Player"
+PATH = "/org/mpris/MediaPlayer2"
+_PROPERTIES = "org.freedesktop.DBus.Properties"
+_MICROSECONDS = 1e6
+
+# mpv's own scripts would open a window; without a sound device it plays at the same pace.
+_MPV = ["mpv", "--no-config", "--load-scripts=no", "--no-video", "--ao=null", "--no-terminal"]
+_MPV += ["--script=/usr/lib/mpv-mpris/mpris.so"]
+
+
+class Bus:
+    """A connection of ours to the desktop's session bus; a question takes well below a millisecond."""
+
+    def __init__(self, desktop):
+        flags = Gio.DBusConnectionFlags
+        self.connection = Gio.DBusConnection.new_for_address_sync(
+            desktop.env["DBUS_SESSION_BUS_ADDRESS"],
+            flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None,
+        )  # fmt: skip
+        self.connection.set_exit_on_close(False)
+
+    def call(self, name, path, interface, method, arguments=None):
+        answer = self.connection.call_sync(
+            name, path, interface, method, arguments, None, Gio.DBusCallFlags.NO_AUTO_START, 5000, None
+        )
+        return answer.unpack()
+
+    def get(self, name, path, interface, member):
+        return self.call(name, path, _PROPERTIES, "Get", GLib.Variant("(ss)", (interface, member)))[0]
+
+    def owns(self, name):
+        daemon = "org.freedesktop.DBus"
+        return self.call(daemon, "/", daemon, "NameHasOwner", GLib.Variant("(s)", (name,)))[0]
+
+    def now_playing(self):
+        """The record that the island publishes; empty if there is none."""
+        return self.get(BUS_NAME, "/com/quillmere/Quillmere", "com.quillmere.Island", "NowPlaying")
+
+    def ping(self):
+        """Of the island's main thread."""
+        self.call(BUS_NAME, "/", "org.freedesktop.DBus.Peer", "Ping")
+
+
+def make_track(folder, title, artist, seconds, cover=None, size=300):
+    """A track of silence in a folder of its own, beside the cover art if a colour is given for it."""
+    folder = Path(folder) / title
+    folder.mkdir(parents=True)
+    track = folder / "track.flac"
+    silence = ["-f", "lavfi", "-i", "anullsrc=r=8000:cl=mono", "-t", str(seconds)]
+    _ffmpeg(*silence, "-metadata", f"title={title}", "-metadata", f"artist={artist}", track)
+    if cover:
+        make_cover(folder / "cover.jpg", cover, size)
+    return str(track)
+
+
+def make_cover(path, colors, size=300):
+    """Colours as of ffmpeg, one or the two ends of a gradient as "red:blue"."""
+    first, _, second = colors.partition(":")
+    gradient = f"gradients=s={size}x{size}:c0={first}:c1={second or first}:x0=0:y0=0:x1={size}:y1={size}"
+    _ffmpeg("-f", "lavfi", "-i", gradient, "-frames:v", "1", path)
+    return path.as_uri()
+
+
+def _ffmpeg(*arguments):
+    subprocess.run(["ffmpeg", "-loglevel", "error", "-y", *arguments], stdin=subprocess.DEVNULL, check=True)
+
+
+class Player:
+    """A process that speaks MPRIS, asked and commanded as any other program would."""
+
+    def __init__(self, bus, process, name):
+        self.bus, self.process, self.name = bus, process, name
+
+    def get(self, member):
+        return self.bus.get(self.name, PATH, PLAYER, member)
+
+    def send(self, method, arguments=None):
+        self.bus.call(self.name, PATH, PLAYER, method, arguments)
+
+    def position(self):
+        return self.get("Position") / _MICROSECONDS
+
+    def title(self):
+        return self.get("Metadata").get("xesam:title")
+
+    def seek_to(self, seconds):
+        where = GLib.Variant("(ox)", (self.get("Metadata")["mpris:trackid"], int(seconds * _MICROSECONDS)))
+        self.send("SetPosition", where)
+
+    def kill(self):
+        self.process.kill()
+        self.process.wait()
+
+    def end(self):
+        end_process(self.process)
+
+
+def start_mpv(desktop, bus, *arguments):
+    """mpv with its MPRIS plug-in, as soon as it is on the bus."""
+    process = desktop.spawn([*_MPV, *arguments], "mpv.log")
+    names = f"{MPRIS}.mpv.instance{process.pid}", f"{MPRIS}.mpv"
+
+    def name():
+        own = [n for n in names if bus.owns(n) and _process_of(bus, n) == process.pid]
+        return own[0] if own else None
+
+    return Player(bus, process, wait_until(name, what="mpv on the bus: " + desktop.log("mpv.log")))
+
+
+def _process_of(bus, name):
+    daemon = "org.freedesktop.DBus"
+    return bus.call(daemon, "/", daemon, "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))[0]
+
+
+class ScriptedPlayer:
+    """A player in this process: shows what it is told to, and counts how often its position is asked."""
+
+    _INTERFACE = f"""<node><interface name="{PLAYER}">
+        <property name="PlaybackStatus" type="s" access="read"/><property name="Rate" type="d" access="read"/>
+        <property name="Position" type="x" access="read"/><property name="Metadata" type="a{{sv}}" access="read"/>
+        <property name="CanSeek" type="b" access="read"/></interface></node>"""
+
+    def __init__(self, desktop, name="scripted"):
+        self.asked = 0
+        self._started = time.monotonic()
+        self._metadata = {}
+        self._context = GLib.MainContext()
+        self._loop = GLib.MainLoop(self._context)
+        ready = threading.Event()
+        self._thread = threading.Thread(target=self._run, args=(desktop, name, ready), daemon=True)
+        self._thread.start()
+        if not ready.wait(10):
+            raise AssertionError("the scripted player did not start")
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self._loop.quit()
+        self._thread.join()
+        self._connection.close_sync(None)
+
+    def _run(self, desktop, name, ready):
+        self._context.push_thread_default()
+        self._connection = Bus(desktop).connection
+        interface = Gio.DBusNodeInfo.new_for_xml(self._INTERFACE).interfaces[0]
+        self._connection.register_object(PATH, interface, None, self._property, None)
+        Gio.bus_own_name_on_connection(self._connection, f"{MPRIS}.{name}", 0, lambda *_: ready.set(), None)
+        self._loop.run()
+
+    def _property(self, _connection, _sender, _path, _interface, name):
+        if name == "Position":
+            self.asked += 1
+        return {
+            "PlaybackStatus": GLib.Variant("s", "Playing"),
+            "Rate": GLib.Variant("d", 1),
+            "Position": GLib.Variant("x", int((time.monotonic() - self._started) * _MICROSECONDS)),
+            "Metadata": GLib.Variant("a{sv}", self._metadata),
+            "CanSeek": GLib.Variant("b", False),
+        }[name]
+
+    def play(self, title, art=None, seconds=600):
+        self._started = time.monotonic()
+        self._metadata = {
+            "mpris:trackid": GLib.Variant("o", f"/track/{abs(hash(title))}"),
+            "xesam:title": GLib.Variant("s", title),
+        }
+        if seconds is not None:
+            self._metadata["mpris:length"] = GLib.Variant("x", int(seconds * _MICROSECONDS))
+        if art:
+            self._metadata["mpris:artUrl"] = GLib.Variant("s", art)
+        self.announce()
+
+    def announce(self):
+        changed = {"Metadata": GLib.Variant("a{sv}", self._metadata), "PlaybackStatus": GLib.Variant("s", "Playing")}
+        signal = GLib.Variant("(sa{sv}as)", (PLAYER, changed, []))
+        self._connection.emit_signal(None, PATH, _PROPERTIES, "PropertiesChanged", signal)
