@@ -29,6 +29,12 @@ public:
     void nextTrack();
     void previousTrack();
 
+    /// What the player can do, known by the time its track is shown.
+    bool canShuffle() const { return service_.canShuffle(); }
+    bool canRepeat() const { return service_.canRepeat(); }
+    void toggleShuffle() { service_.toggleShuffle(); }
+    void cycleRepeat() { service_.cycleRepeat(); }
+
     /// 0..1 of the track.
     void seek(double fraction);
 

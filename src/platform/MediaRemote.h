@@ -37,6 +37,16 @@ public:
 
     /// Moves the elected player to `seconds` into its track.
     virtual void setElapsedTime(double seconds) = 0;
+
+    /// Whether the elected player can play in random order, or again from the start.
+    virtual bool canShuffle() const = 0;
+    virtual bool canRepeat() const = 0;
+
+    /// Turns random order on or off. False if there is no player that has it.
+    virtual bool toggleShuffle() = 0;
+
+    /// To repeating the list, then the track, then nothing. False if there is no player that can.
+    virtual bool cycleRepeat() = 0;
 };
 
 /// The keys of what a player said, and the type of each value.

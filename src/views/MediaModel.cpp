@@ -46,6 +46,8 @@ MediaModel::MediaModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hu
 
 void MediaModel::setSupportedExtras(std::set<MediaControlButton> extras)
 {
+    if (extras == supportedExtras_)
+        return;
     supportedExtras_ = std::move(extras);
     refreshLook();
 }

@@ -141,6 +141,7 @@ TEST_F(HostilePlayerTest, NoNonsenseChangesWhatIsKnown)
     EXPECT_EQ(ask().value(mediaInfo::title), u"Good"_s); // in the middle of the question
     EXPECT_TRUE(waitForTitle({}));
     EXPECT_FALSE(remote.sendCommand(MediaRemote::Command::NextTrack));
+    EXPECT_FALSE(remote.toggleShuffle() || remote.cycleRepeat());
 }
 
 QByteArray picture(Qt::GlobalColor color)
@@ -281,6 +282,27 @@ TEST_F(RealPlayerTest, ObeyAndTellWhereTheyAre)
     EXPECT_LT(ask<double>(mediaInfo::elapsedTime), 10);
     EXPECT_TRUE(remote.sendCommand(MediaRemote::Command::PreviousTrack));
     EXPECT_TRUE(plays(u"First Light"_s, 1));
+
+    ASSERT_TRUE(remote.canShuffle() && remote.canRepeat());
+    const auto says = [this](const QString &property, const QVariant &value) {
+        auto question = QDBusMessage::createMethodCall(
+            u"org.mpris.MediaPlayer2.mpv"_s, u"/org/mpris/MediaPlayer2"_s,
+            u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+        question << u"org.mpris.MediaPlayer2.Player"_s << property;
+        const auto connection = bus.connect();
+        return waitUntil([&] {
+            const auto answer = connection.call(question).arguments().value(0);
+            return answer.value<QDBusVariant>().variant() == value;
+        });
+    };
+    for (const bool shuffled : {true, false}) {
+        EXPECT_TRUE(remote.toggleShuffle());
+        EXPECT_TRUE(says(u"Shuffle"_s, shuffled));
+    }
+    for (const QString &loop : {u"Playlist"_s, u"Track"_s, u"None"_s}) {
+        EXPECT_TRUE(remote.cycleRepeat());
+        EXPECT_TRUE(says(u"LoopStatus"_s, loop));
+    }
 
     const auto other = startPlayer({second}); // begins later
     EXPECT_TRUE(plays(u"Second Wind"_s, 1));

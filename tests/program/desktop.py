@@ -204,11 +204,11 @@ class PrivateDesktop:
     def spawn(self, command, log, **options):
         """Starts a process that lives no longer than this desktop; its output goes to the file `log`."""
         options.setdefault("env", self.env)
+        options.setdefault("stdin", subprocess.DEVNULL)
         with open(self.dir / log, "ab") as output:
             options.setdefault("stdout", output)
             process = subprocess.Popen(
                 command,
-                stdin=subprocess.DEVNULL,
                 stderr=output,
                 cwd=self.dir,
                 start_new_session=True,

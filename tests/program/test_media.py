@@ -77,8 +77,10 @@ class MediaTest(IslandTest):
         )  # fmt: skip
 
     def test_a_playlist_from_its_start_to_its_end(self):
+        pill = self.island.get("Frame")[2]
         player = self.start(self.first, self.second)
         self.wait_for(title="First Light", subtitle="The Testers", isPlaying=True, bundleID="mpv")
+        wait_until(lambda: self.island.get("Frame")[2] >= pill + 20, what="the wings")
         self.assert_near(player, 100)
         player.seek_to(70)
         self.assert_near(player, 100)
@@ -110,6 +112,7 @@ class MediaTest(IslandTest):
         player.seek_to(58.5)
         player.process.wait(20)
         self.wait_for(title=None)
+        wait_until(lambda: self.island.get("Frame")[2] == pill, what="the pill without wings")
 
         lines = self.log()
         wrong = [(c, m) for c, m in lines if c in LINES and not re.fullmatch(LINES[c], m)]

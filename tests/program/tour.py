@@ -12,6 +12,7 @@ from backlight import Backlight
 from desktop import PipeWireDesktop, PrivateDesktop, end_process, wait_until
 from drag import Drag
 from island import Island, is_black
+from players import Bus, make_track, start_mpv
 
 STRIP = 300  # logical units of the screen's top that a screenshot shows
 SETTINGS = {"autoCollapseDelay": 0.7, "showFileTray": True, "idleActivityMostRecent": True}
@@ -54,7 +55,7 @@ class Tour:
     def point(self, x, y, *more):
         """`x` from the middle of the screen."""
         scale = self.desktop.scale
-        x, y = self.desktop.primary.width // 2 + x * scale, y * scale
+        x, y = self.desktop.primary.width // 2 + round(x * scale), y * scale
         self.desktop.run("xdotool", "mousemove", str(x), str(y), *more)
 
     def press(self, x, y):
@@ -178,6 +179,57 @@ class Tour:
         self.settled("dashboard-activity")
         self.leave()
 
+    def media(self):
+        """A playlist: with cover art, with a title beyond its line, without cover art."""
+        bus, folder = Bus(self.desktop), self.desktop.dir
+        long = "The Very Long Way Home Through the Harbour and the Rain, Part Two of Three"
+        player = start_mpv(
+            self.desktop, bus,
+            make_track(folder, "First Light", "The Testers", 227, "0x1fa39a:0xf28a2e"),
+            make_track(folder, long, "An Orchestra of Many Names, Its Choir and Its Soloists", 4000, "0x8a2be2:0xff5f87"),
+            make_track(folder, "No Cover", "The Testers", 95),
+        )  # fmt: skip
+
+        def plays(title):
+            wait_until(lambda: bus.now_playing().get("title") == title, what=title)
+            time.sleep(1)
+
+        plays("First Light")
+        player.seek_to(83)
+        time.sleep(1)
+        self.shoot("media-wings")
+        self.open()
+        time.sleep(1)
+        self.shoot("media")
+        self.island.ctl("action", "play-pause")
+        time.sleep(1)
+        self.settled("media-paused")
+        left, right = self.scrubber()
+        self.point(left + 0.6 * (right - left), 88, "mousedown", "1")
+        self.point(left + 0.8 * (right - left), 88)
+        self.settled("media-scrubbing")
+        self.point(left + 0.8 * (right - left), 88, "mouseup", "1")
+        wait_until(lambda: abs(player.position() - 0.8 * 227) < 3, what="the player to follow")
+        self.settled("media-sought")
+        self.point(-200, 180)  # where nothing answers to it
+        self.island.ctl("action", "play-pause")
+        player.send("Next")
+        plays(long)
+        self.shoot("media-long-title")
+        player.send("Next")
+        plays("No Cover")
+        self.shoot("media-no-cover")
+        self.leave()
+        time.sleep(0.5)
+        self.shoot("media-wings-no-cover")
+        player.end()
+        wait_until(lambda: not bus.now_playing(), what="the end of the track")
+
+    def scrubber(self):
+        """Its ends, from the middle of the screen."""
+        _, _, width, _ = self.island.get("Frame")
+        return 176 - width / 2, width / 2 - 24
+
     def drags(self):
         with Drag(self.desktop) as drag:
             drag.move_to(self.desktop.primary.width // 2, 10 * self.desktop.scale)
@@ -229,6 +281,7 @@ def visit(album, build, look, scale, kind=PrivateDesktop):
             if (look, scale) in (("dark", 1), ("light", 2)):
                 tour.headset()
                 tour.activity()
+                tour.media()
                 tour.drags()
                 tour.film()
         if faults := island.faults():

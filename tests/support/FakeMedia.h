@@ -33,6 +33,10 @@ public:
         return true;
     }
     void setElapsedTime(double seconds) override { positions.push_back(seconds); }
+    bool canShuffle() const override { return false; }
+    bool canRepeat() const override { return false; }
+    bool toggleShuffle() override { return false; }
+    bool cycleRepeat() override { return false; }
 
     void answer()
     {

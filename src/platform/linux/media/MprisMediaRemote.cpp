@@ -90,6 +90,22 @@ void MprisMediaRemote::setElapsedTime(double seconds)
         elected_->seekTo(seconds);
 }
 
+bool MprisMediaRemote::toggleShuffle()
+{
+    if (!canShuffle())
+        return false;
+    elected_->toggleShuffle();
+    return true;
+}
+
+bool MprisMediaRemote::cycleRepeat()
+{
+    if (!canRepeat())
+        return false;
+    elected_->cycleRepeat();
+    return true;
+}
+
 void MprisMediaRemote::ownerChanged(const QString &suffix, const QString &owner)
 {
     const auto found = std::find_if(players_.begin(), players_.end(),

@@ -29,6 +29,10 @@ public:
                            std::function<void(const QVariantMap &info)> done) override;
     bool sendCommand(Command command) override;
     void setElapsedTime(double seconds) override;
+    bool canShuffle() const override { return elected_ && elected_->canShuffle(); }
+    bool canRepeat() const override { return elected_ && elected_->canRepeat(); }
+    bool toggleShuffle() override;
+    bool cycleRepeat() override;
 
 private:
     /// What has changed since the last posts.

@@ -4,6 +4,7 @@
 #include "platform/linux/media/MprisNames.h"
 
 #include <QDBusObjectPath>
+#include <QDBusVariant>
 
 #include <utility>
 
@@ -191,6 +192,8 @@ void MprisPlayer::take(const MprisReport &report, Instant heardAt)
     status_ = report.status;
     rate_ = report.rate;
     canSeek_ = report.canSeek;
+    shuffle_ = report.shuffle;
+    loop_ = report.loop;
     onReport_(*this, change);
 }
 
@@ -264,6 +267,29 @@ void MprisPlayer::seekTo(double seconds)
     else
         message << inMicroseconds(wanted - position());
     await(message, "A player does not seek");
+}
+
+void MprisPlayer::toggleShuffle()
+{
+    shuffle_ = !shuffle_.value_or(false); // for the next press, which may come before the answer
+    set("Shuffle", *shuffle_);
+}
+
+void MprisPlayer::cycleRepeat()
+{
+    loop_ = nextLoopStatus(loop_.value_or(LoopStatus::None));
+    set("LoopStatus", loopStatusName(*loop_));
+}
+
+void MprisPlayer::set(const char *property, const QVariant &value)
+{
+    auto message = question(mpris::playerInterface, QStringLiteral("Set"));
+    message << QString::fromLatin1(property) << QVariant::fromValue(QDBusVariant(value));
+    calls_.call(message, answerLimit, [this](const BusReply &reply) {
+        if (!reply)
+            complaints_.tell("A player does not obey", suffix_, reply.error().message());
+        refresh();
+    });
 }
 
 void MprisPlayer::await(const QDBusMessage &message, const char *complaint)

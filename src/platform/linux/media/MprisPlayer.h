@@ -60,6 +60,13 @@ public:
 
     void seekTo(double seconds);
 
+    bool canShuffle() const { return shuffle_.has_value(); }
+    bool canRepeat() const { return loop_.has_value(); }
+
+    /// Of a player that can.
+    void toggleShuffle();
+    void cycleRepeat();
+
 private:
     QDBusMessage question(QLatin1StringView interface, const QString &method) const;
     QDBusMessage command(const QString &method) const;
@@ -69,6 +76,7 @@ private:
     void failed(const QDBusError &error);
     void take(const MprisReport &report, Instant heardAt);
     void moveTo(const Track &track, double rate, std::optional<double> position, Instant heardAt);
+    void set(const char *property, const QVariant &value);
     void announceSeek();
     void await(const QDBusMessage &message, const char *complaint);
 
@@ -87,6 +95,8 @@ private:
     Track track_;
     PlayerStatus status_ = PlayerStatus::Unknown;
     bool canSeek_ = false;
+    std::optional<bool> shuffle_;
+    std::optional<LoopStatus> loop_;
     double rate_ = 1;
     Playhead playhead_;
     std::optional<Instant> began_;

@@ -40,6 +40,16 @@ constexpr std::array<StatusName, 3> statusNames{{
     {QLatin1StringView("Stopped"), PlayerStatus::Stopped},
 }};
 
+struct LoopName {
+    QLatin1StringView name;
+    LoopStatus status;
+};
+constexpr std::array<LoopName, 3> loopNames{{
+    {QLatin1StringView("None"), LoopStatus::None},
+    {QLatin1StringView("Playlist"), LoopStatus::Playlist},
+    {QLatin1StringView("Track"), LoopStatus::Track},
+}};
+
 /// Values come in a variant each, from some players in two.
 QVariant unwrapped(QVariant value)
 {
@@ -56,6 +66,22 @@ std::optional<QString> text(const QVariant &value)
         return plain.value<QDBusObjectPath>().path();
     if (plain.typeId() == QMetaType::QString)
         return plain.toString();
+    return std::nullopt;
+}
+
+std::optional<bool> truth(const QVariant &value)
+{
+    const QVariant plain = unwrapped(value);
+    return plain.typeId() == QMetaType::Bool ? std::optional(plain.toBool()) : std::nullopt;
+}
+
+std::optional<LoopStatus> loopStatus(const QVariant &value)
+{
+    const auto told = text(value);
+    for (const auto &known : loopNames) {
+        if (told && told->compare(known.name, Qt::CaseInsensitive) == 0)
+            return known.status;
+    }
     return std::nullopt;
 }
 
@@ -236,8 +262,9 @@ MprisReport player(const QVariantMap &properties)
     const double rate = number(properties.value(u"Rate"_s)).value_or(1);
     report.rate = rate > 0 && rate <= fastest ? rate : 1;
     report.position = position(properties.value(u"Position"_s));
-    const QVariant canSeek = unwrapped(properties.value(u"CanSeek"_s));
-    report.canSeek = canSeek.typeId() == QMetaType::Bool && canSeek.toBool();
+    report.canSeek = truth(properties.value(u"CanSeek"_s)).value_or(false);
+    report.shuffle = truth(properties.value(u"Shuffle"_s));
+    report.loop = loopStatus(properties.value(u"LoopStatus"_s));
     if (const auto metadata = dictionary(properties.value(u"Metadata"_s)))
         report.track = track(*metadata);
     return report;
@@ -264,3 +291,29 @@ QString bundleIdentifier(const PlayerApplication &application, const QString &su
 }
 
 } // namespace quillmere::playerReport
+
+namespace quillmere {
+
+LoopStatus nextLoopStatus(LoopStatus status)
+{
+    switch (status) {
+    case LoopStatus::None:
+        return LoopStatus::Playlist;
+    case LoopStatus::Playlist:
+        return LoopStatus::Track;
+    case LoopStatus::Track:
+        break;
+    }
+    return LoopStatus::None;
+}
+
+QString loopStatusName(LoopStatus status)
+{
+    for (const auto &known : playerReport::loopNames) {
+        if (known.status == status)
+            return known.name;
+    }
+    return {};
+}
+
+} // namespace quillmere

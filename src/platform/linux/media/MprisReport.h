@@ -41,14 +41,24 @@ struct Track {
 
 enum class PlayerStatus { Unknown, Playing, Paused, Stopped };
 
+enum class LoopStatus { None, Playlist, Track };
+
 /// Everything a player said at one time.
 struct MprisReport {
     PlayerStatus status = PlayerStatus::Unknown;
     double rate = 1;                ///< of playing, above 0
     std::optional<double> position; ///< s, as told
     bool canSeek = false;
-    std::optional<Track> track; ///< absent if the metadata was no metadata
+    std::optional<bool> shuffle;    ///< absent if the player has no random order
+    std::optional<LoopStatus> loop; ///< absent if it cannot repeat
+    std::optional<Track> track;     ///< absent if the metadata was no metadata
 };
+
+/// What the next press on a button that repeats makes of it.
+LoopStatus nextLoopStatus(LoopStatus status);
+
+/// As it is told to players.
+QString loopStatusName(LoopStatus status);
 
 /// What a player says of itself.
 struct PlayerApplication {
