@@ -15,11 +15,13 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tests" / "program"))
+sys.path.insert(1, str(ROOT / "bench"))
 
 from backlight import Backlight  # noqa: E402
 from desktop import PrivateDesktop, end_process  # noqa: E402
 from film import Camera  # noqa: E402
 from island import Island, is_black  # noqa: E402
+from media import Media  # noqa: E402
 
 
 def percentile(values, part):
@@ -293,6 +295,7 @@ def main():
     parser.add_argument("--minute", type=float, default=60, metavar="SECONDS", help="length of the idle measurement")
     parser.add_argument("--rounds", type=int, default=100, help="volume changes timed")
     parser.add_argument("--huds", type=int, default=2000)
+    parser.add_argument("--tracks", type=int, default=500, help="changes of track with large artwork")
     parser.add_argument("--only", help="one measurement by name, such as opening")
     options = parser.parse_args()
 
@@ -310,6 +313,10 @@ def main():
         "growth": lambda: measurement.growth(options.huds),
         "storm": measurement.storm,
         "cycles": measurement.cycles,
+        "playhead": lambda: Media(measurement).playhead(),
+        "media": lambda: Media(measurement).costs(),
+        "artwork": lambda: Media(measurement).artwork(options.tracks),
+        "mediastorm": lambda: Media(measurement).storm(),
     }
     for name, measure in measurements.items():
         if options.only in (None, name):

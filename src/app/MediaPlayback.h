@@ -6,6 +6,7 @@
 namespace quillmere {
 
 class HUDManager;
+struct HUDContent;
 class IslandDebugLogger;
 class SettingsStore;
 struct Platform;
@@ -39,9 +40,13 @@ public:
     void seek(double fraction);
 
 private:
+    void playingChanged(const QVariantMap &payload);
+    void freeze(HUDContent track);
+
     HUDManager &hudManager_;
     NowPlayingArtworkService service_;
     NowPlayingPoller poller_;
+    Task pauseObserver_;
 };
 
 } // namespace quillmere

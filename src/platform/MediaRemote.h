@@ -11,8 +11,9 @@ namespace quillmere {
 
 /// What plays, and the commands that go to its player. Main thread only.
 ///
-/// Tells of changes by posting to the NotificationCenter under the names below, without payload and
-/// as often as the player does: whoever listens decides how often it wants to ask.
+/// Tells of changes by posting to the NotificationCenter under the names below as often as the
+/// player does: whoever listens decides how often it wants to ask. Only isPlayingDidChange has a
+/// payload.
 class MediaRemote
 {
 public:
@@ -78,6 +79,9 @@ inline constexpr QLatin1StringView
     applicationDidChange("kMRMediaRemoteNowPlayingApplicationDidChangeNotification");
 inline constexpr QLatin1StringView
     isPlayingDidChange("kMRMediaRemoteNowPlayingApplicationIsPlayingDidChangeNotification");
+/// In the payload of isPlayingDidChange: false if the player has been paused, else true or absent.
+inline constexpr QLatin1StringView
+    isPlaying("kMRMediaRemoteNowPlayingApplicationIsPlayingUserInfoKey");
 inline constexpr QLatin1StringView infoChanged("com.apple.mediaremote.nowplaying.info.changed");
 inline constexpr QLatin1StringView
     applicationChanged("com.apple.mediaremote.nowplaying.applicationchanged");

@@ -95,6 +95,12 @@ class MediaTest(IslandTest):
 
         player.seek_to(30)
         self.assert_near(player, 100)
+        player.send("Play")
+        self.wait_for(isPlaying=True)
+        player.send("Pause")
+        self.wait_for(isPlaying=False)
+        time.sleep(1.5)
+        self.assertLess(abs(self.playhead(100) - player.position()), NEAR)
         self.island.ctl("action", "play-pause")
         wait_until(lambda: self.playerctl("status") == "Playing", what="the player to play")
         self.wait_for(isPlaying=True)

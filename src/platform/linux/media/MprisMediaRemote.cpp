@@ -175,7 +175,8 @@ void MprisMediaRemote::post()
     if (news.application)
         notificationCenter_.post(mediaEvents::applicationDidChange);
     if (news.isPlaying)
-        notificationCenter_.post(mediaEvents::isPlayingDidChange);
+        notificationCenter_.post(mediaEvents::isPlayingDidChange,
+                                 {{mediaEvents::isPlaying, !elected_ || !elected_->isPaused()}});
     if (news.info)
         notificationCenter_.post(mediaEvents::infoDidChange);
 }

@@ -45,6 +45,8 @@ public:
     std::optional<double> playbackRate() const;
     double position() const;
 
+    bool isPaused() const { return status_ == PlayerStatus::Paused; }
+
     /// Asks for everything again, soon.
     void refresh();
 
