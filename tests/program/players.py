@@ -1,5 +1,7 @@
 """Media players on a private desktop: real ones with generated tracks, and one that plays by script."""
 
+import contextlib
+import http.server
 import subprocess
 import threading
 import time
@@ -123,6 +125,41 @@ def start_mpv(desktop, bus, *arguments):
 def _process_of(bus, name):
     daemon = "org.freedesktop.DBus"
     return bus.call(daemon, "/", daemon, "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))[0]
+
+
+_PAGE = """<title>Page</title><audio id="audio" src="track.flac" loop></audio><script>
+navigator.mediaSession.metadata = new MediaMetadata({{title: "{title}", artist: "{artist}", artwork:
+    [{{src: "cover.jpg", sizes: "300x300", type: "image/jpeg"}}]}});
+audio.play()</script>"""
+_CHROMIUM = ["chromium", "--headless", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage", "--no-first-run"]
+_CHROMIUM += ["--disable-background-networking", "--disable-component-update", "--disable-sync"]
+_CHROMIUM += ["--password-store=basic", "--autoplay-policy=no-user-gesture-required"]
+
+
+@contextlib.contextmanager
+def chromium_playing(desktop, bus, title, artist, cover):
+    """Chromium with a page that tells what it plays, as a player once it is on the bus."""
+    folder = Path(make_track(desktop.dir, title, artist, 60, cover)).parent
+    (folder / "page.html").write_text(_PAGE.format(title=title, artist=artist))
+
+    class Handler(http.server.SimpleHTTPRequestHandler):
+        def __init__(self, *arguments):
+            super().__init__(*arguments, directory=folder)
+
+        def log_message(self, *_):
+            pass
+
+    with http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler) as server:
+        threading.Thread(target=server.serve_forever, daemon=True).start()
+        page = f"http://127.0.0.1:{server.server_port}/page.html"
+        process = desktop.spawn([*_CHROMIUM, f"--user-data-dir={desktop.dir}/chromium", page], "chromium.log")
+        name = f"{MPRIS}.chromium.instance{process.pid}"
+        try:
+            wait_until(lambda: bus.owns(name), 40, what="Chromium on the bus")
+            yield Player(bus, process, name)
+        finally:
+            end_process(process)
+            server.shutdown()
 
 
 class ScriptedPlayer:

@@ -8,7 +8,7 @@ import unittest
 from case import IslandTest
 from desktop import wait_until
 from island import Island
-from players import Bus, ScriptedPlayer, make_track, start_mpv
+from players import Bus, ScriptedPlayer, chromium_playing, make_track, start_mpv
 
 IDLE = 1.5  # seconds
 
@@ -29,6 +29,10 @@ LINES = {
         rf"|CONFIRMED_PAUSE freezing at {REAL}"
     ),
 }
+
+
+def near(pixel, color):
+    return max(abs(one - other) for one, other in zip(pixel, color)) < 40
 
 
 class MediaTest(IslandTest):
@@ -155,6 +159,18 @@ class MediaTest(IslandTest):
             player.play("Endless Radio", seconds=None)
             self.wait_for(title="Endless Radio", isPlaying=True, mediaProgress=None, mediaElapsed=None)
             wait_until(lambda: ("POLLER", 'title="Endless Radio" NO_DURATION — direct set') in self.log(), what="its line")
+
+    def test_a_page_in_a_browser(self):
+        with chromium_playing(self.desktop, self.bus, "Web Song", "Web Artist", "orange") as browser:
+            self.wait_for(title="Web Song", subtitle="Web Artist", bundleID="com.google.Chrome", isPlaying=True)
+            artwork = self.desktop.primary.width // 2 - 90, 16
+            wait_until(lambda: near(self.desktop.screen.pixel(*artwork), (255, 165, 0)), what="its artwork")
+            self.island.ctl("action", "play-pause")
+            wait_until(lambda: browser.get("PlaybackStatus") == "Paused", what="the page to pause")
+            self.wait_for(isPlaying=False)
+            self.island.ctl("action", "play-pause")
+            wait_until(lambda: browser.get("PlaybackStatus") == "Playing", what="the page to play")
+            self.wait_for(isPlaying=True)
 
     def test_without_media_nobody_is_asked(self):
         with ScriptedPlayer(self.desktop) as player:
