@@ -68,7 +68,8 @@ private:
         model_.emplace(app_.hudManager(), island.contentView, island.panel, app_.settings(),
                        services.appearance);
         dashboard_.emplace(services.runLoop, app_.settings(), app_.hudManager(), island.contentView,
-                           island.outputPicker, island.fileTray, services.appearance);
+                           island.outputPicker, island.fileTray, island.claudeCode,
+                           services.appearance);
         const auto openLink = [](const QUrl &link) { QDesktopServices::openUrl(link); };
         QObject::connect(&*model_, &IslandModel::linkActivated, openLink);
         QObject::connect(&*dashboard_, &DashboardModel::linkActivated, openLink);

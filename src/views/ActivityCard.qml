@@ -7,9 +7,11 @@ Card {
 
     required property DashboardModel model
 
+    required property bool reducedMotion
+
     readonly property FaceModel face: model.activity
 
-    height: 56
+    signal assistantWanted()
 
     Accessible.role: Accessible.Grouping
     Accessible.name: face.accessibleText
@@ -102,6 +104,19 @@ Card {
             symbol: card.LayoutMirroring.enabled ? "chevron.left" : "chevron.right"
             description: qsTr("Next activity")
             onPressed: card.model.stepActivity(1)
+        }
+        Button {
+            visible: card.model.assistant.hasSession
+            flat: true
+            description: card.model.assistant.summary
+            onPressed: card.assistantWanted()
+
+            PulsingDot {
+                anchors.fill: parent
+                color: card.model.assistant.color
+                active: card.model.assistant.active
+                still: card.reducedMotion
+            }
         }
         Button {
             flat: true

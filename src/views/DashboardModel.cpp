@@ -45,7 +45,8 @@ QString title(IslandPage page)
 
 DashboardModel::DashboardModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
                                ContentView &contentView, AudioOutputPicker &outputPicker,
-                               FileTray &fileTray, Appearance &appearance, QObject *parent)
+                               FileTray &fileTray, ClaudeCodeMonitor &claudeCode,
+                               Appearance &appearance, QObject *parent)
     : QObject(parent)
     , runLoop_(runLoop)
     , settings_(settings)
@@ -56,6 +57,7 @@ DashboardModel::DashboardModel(RunLoop &runLoop, SettingsStore &settings, HUDMan
     , appearance_(appearance)
     , slots_{islandPageName(contentView.pages().islandPage()), QString()}
     , media_(runLoop, settings, hudManager, appearance)
+    , assistant_(runLoop, claudeCode)
 {
     const IslandPages &pages = contentView_.pages();
     connect(&pages, &IslandPages::offeredChanged, this, &DashboardModel::pagesChanged);
@@ -92,6 +94,7 @@ void DashboardModel::presentationChanged()
         updateClock();
         updateActivity();
     }
+    assistant_.setWatched(isOpen());
     updateLevel();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/RunLoop.h"
+#include "views/AssistantModel.h"
 #include "views/FaceModel.h"
 #include "views/MediaModel.h"
 
@@ -15,6 +16,7 @@ namespace quillmere {
 
 class Appearance;
 class AudioOutputPicker;
+class ClaudeCodeMonitor;
 class ContentView;
 class FileTray;
 class HUDManager;
@@ -46,6 +48,7 @@ class DashboardModel : public QObject
     Q_PROPERTY(quillmere::FaceModel *activity READ activity CONSTANT FINAL)
 
     Q_PROPERTY(quillmere::MediaModel *media READ media CONSTANT FINAL)
+    Q_PROPERTY(quillmere::AssistantModel *assistant READ assistant CONSTANT FINAL)
 
     Q_PROPERTY(QString outputName READ outputName NOTIFY outputChanged FINAL)
     Q_PROPERTY(QString outputSymbol READ outputSymbol NOTIFY outputChanged FINAL)
@@ -59,7 +62,8 @@ class DashboardModel : public QObject
 public:
     DashboardModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
                    ContentView &contentView, AudioOutputPicker &outputPicker, FileTray &fileTray,
-                   Appearance &appearance, QObject *parent = nullptr);
+                   ClaudeCodeMonitor &claudeCode, Appearance &appearance,
+                   QObject *parent = nullptr);
 
     QStringList pages() const; ///< the titles of the pages offered
     int pageIndex() const;
@@ -84,6 +88,7 @@ public:
     FaceModel *activity() { return &activity_; } ///< while there is one
 
     MediaModel *media() { return &media_; }
+    AssistantModel *assistant() { return &assistant_; }
 
     QString outputName() const;
     QString outputSymbol() const;
@@ -143,6 +148,7 @@ private:
     FaceModel level_;
     FaceModel activity_;
     MediaModel media_;
+    AssistantModel assistant_;
     Task nextMinute_;
 };
 

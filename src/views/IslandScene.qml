@@ -79,6 +79,7 @@ Item {
             Wings {
                 island: scene.island
                 media: scene.dashboard.media
+                assistant: scene.dashboard.assistant
                 live: scene.live
             }
             HUDSlot {

@@ -1,7 +1,8 @@
 import QtQuick
 import Quillmere
 
-// What is live now: the playing track, or else the time, and the latest activity.
+// What is live now: the playing track, or else the time, and below it the coding assistant or the
+// latest activity. Where there are both, the one that is busy comes first and leads to the other.
 Item {
     id: page
 
@@ -10,8 +11,21 @@ Item {
     required property bool reducedMotion
 
     readonly property MediaModel media: model.media
-    readonly property bool busy: model.activityCount > 0
+    readonly property AssistantModel assistant: model.assistant
+    readonly property bool hasActivity: model.activityCount > 0
+    readonly property bool showsAssistant: assistant.hasSession && (!hasActivity || assistant.active !== turned)
+    readonly property bool busy: hasActivity || assistant.hasSession
     readonly property bool idle: !busy && !media.hasMedia && media.offered
+
+    // The user asked for the card that does not come first.
+    property bool turned: false
+
+    Connections {
+        target: page.assistant
+        function onActiveChanged() {
+            page.turned = false;
+        }
+    }
 
     component Panel: Loader {
         property bool shown
@@ -55,7 +69,9 @@ Item {
         }
     }
 
-    ActivityCard {
+    Item {
+        id: cards
+
         anchors.left: parent.left
         anchors.leftMargin: 24
         anchors.right: parent.right
@@ -63,8 +79,27 @@ Item {
         height: page.media.hasMedia ? 46 : 56
         // Under a track it reaches into the foot, above the dots.
         y: page.media.hasMedia ? 146 : parent.height - height - 6
-        visible: page.busy
-        model: page.model
+
+        Panel {
+            anchors.fill: parent
+            shown: page.hasActivity && !page.showsAssistant
+
+            sourceComponent: ActivityCard {
+                model: page.model
+                reducedMotion: page.reducedMotion
+                onAssistantWanted: page.turned = !page.turned
+            }
+        }
+        Panel {
+            anchors.fill: parent
+            shown: page.showsAssistant
+
+            sourceComponent: AssistantCard {
+                model: page.model
+                reducedMotion: page.reducedMotion
+                onActivitiesWanted: page.turned = !page.turned
+            }
+        }
     }
     Card {
         anchors.left: parent.left

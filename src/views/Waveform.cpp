@@ -6,7 +6,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QQuickWindow>
-#include <QTimerEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -15,9 +14,8 @@ namespace quillmere {
 
 namespace {
 
-constexpr int frameInterval = 40;    // ms
-constexpr double longestFrame = 0.1; // seconds; after a pause it goes on where it stopped
-constexpr double settling = 0.11;    // seconds in which the way to rest is cut to a third
+constexpr std::chrono::milliseconds frameInterval{40};
+constexpr double settling = 0.11; // seconds in which the way to rest is cut to a third
 constexpr double settled = 0.01;
 
 struct Bars {
@@ -72,7 +70,7 @@ void paintBars(QPainter &painter, const Bars &bars)
 } // namespace
 
 Waveform::Waveform(QQuickItem *parent)
-    : PaintedItem(parent)
+    : AnimatedItem(frameInterval, parent)
 {
     resizeBars();
 }
@@ -132,72 +130,32 @@ void Waveform::resizeBars()
     Q_EMIT barsChanged();
 }
 
-bool Waveform::canBeSeen() const
-{
-    return isVisible() && window() && window()->isVisible() && window()->isExposed();
-}
-
 /// Unseen or still, it is at once where it would come to be.
 void Waveform::updateMotion()
 {
-    const double target = playing_ ? 1 : 0;
-    if (!still_ && canBeSeen() && (playing_ || energy_ > 0)) {
-        if (frameTimer_.isActive())
-            return;
-        sinceFrame_.start();
-        frameTimer_.start(frameInterval, Qt::PreciseTimer, this);
+    setMoving(!still_ && canBeSeen() && (playing_ || energy_ > 0));
+    if (isMoving())
         return;
-    }
-    frameTimer_.stop();
-    energy_ = target;
+    energy_ = playing_ ? 1 : 0;
     update();
 }
 
-void Waveform::advance()
+void Waveform::advance(double seconds)
 {
-    const double passed = std::min(longestFrame, static_cast<double>(sinceFrame_.restart()) / 1000);
     const double target = playing_ ? 1 : 0;
-    energy_ = target + (energy_ - target) * std::exp(-passed / settling);
+    energy_ = target + (energy_ - target) * std::exp(-seconds / settling);
     if (std::abs(energy_ - target) < settled)
         energy_ = target;
-    seconds_ += passed;
+    seconds_ += seconds;
     if (energy_ == 0)
-        frameTimer_.stop();
-    update();
-}
-
-void Waveform::timerEvent(QTimerEvent *event)
-{
-    if (event->timerId() == frameTimer_.timerId())
-        advance();
-    else
-        PaintedItem::timerEvent(event);
+        setMoving(false);
 }
 
 void Waveform::itemChange(ItemChange change, const ItemChangeData &data)
 {
-    PaintedItem::itemChange(change, data);
-    if (change == ItemSceneChange) {
-        if (watched_)
-            watched_->removeEventFilter(this);
-        watched_ = data.window;
-        if (watched_)
-            watched_->installEventFilter(this);
-    }
+    AnimatedItem::itemChange(change, data);
     if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged)
         resizeBars();
-    if (change == ItemSceneChange || change == ItemVisibleHasChanged)
-        updateMotion();
-}
-
-/// The window may be hidden, covered or on a screen that is off, which no item hears of.
-bool Waveform::eventFilter(QObject *watched, QEvent *event)
-{
-    const auto type = event->type();
-    const bool handled = PaintedItem::eventFilter(watched, event);
-    if (type == QEvent::Expose || type == QEvent::Show || type == QEvent::Hide)
-        updateMotion();
-    return handled;
 }
 
 double Waveform::height(int bar) const

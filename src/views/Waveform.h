@@ -1,19 +1,16 @@
 #pragma once
 
-#include "views/PaintedItem.h"
+#include "views/AnimatedItem.h"
 
-#include <QBasicTimer>
 #include <QColor>
-#include <QElapsedTimer>
 #include <QList>
-#include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
 namespace quillmere {
 
 /// Bars that move while music plays and settle when it stops. They wake the processor only while
 /// they play and somebody can see them.
-class Waveform : public PaintedItem
+class Waveform : public AnimatedItem
 {
     Q_OBJECT
     QML_ELEMENT
@@ -40,9 +37,6 @@ public:
     double gap() const { return gap_; }
     void setGap(double gap);
 
-    /// Whether it has a timer running.
-    bool isMoving() const { return frameTimer_.isActive(); }
-
 Q_SIGNALS:
     void playingChanged();
     void stillChanged();
@@ -52,13 +46,10 @@ Q_SIGNALS:
 protected:
     Drawing drawing() const override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
-    void timerEvent(QTimerEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    void updateMotion() override;
+    void advance(double seconds) override;
 
 private:
-    void updateMotion();
-    void advance();
-    bool canBeSeen() const;
     double height(int bar) const;
     void resizeBars();
 
@@ -71,9 +62,6 @@ private:
 
     double energy_ = 0;  ///< 0 at rest, 1 playing
     double seconds_ = 0; ///< of playing
-    QBasicTimer frameTimer_;
-    QElapsedTimer sinceFrame_;
-    QPointer<QQuickWindow> watched_;
 };
 
 } // namespace quillmere

@@ -1,21 +1,30 @@
 import QtQuick
 import Quillmere
 
-// The collapsed pill's two ends: what is live at the left, at the right its number or the waveform.
+// The collapsed pill's two ends: what is live at the left, at the right its number or its motion.
 Item {
     id: wings
 
     required property IslandModel island
     required property MediaModel media
+    required property AssistantModel assistant
     required property bool live
 
     readonly property FaceModel face: island.wings
+    readonly property bool showsMedia: island.wingsShowMedia
+    readonly property bool showsAssistant: island.wingsShowAssistant
+    // A camera housing takes the middle; then a word has the room of one wing.
+    readonly property bool parted: island.contentTop > 0
 
     anchors.fill: parent
     visible: opacity > 0
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: island.wingsShowMedia ? media.accessibleText : face.accessibleText
+    Accessible.name: {
+        if (showsMedia && showsAssistant)
+            return qsTr("%1; %2").arg(media.accessibleText).arg(assistant.summary);
+        return showsMedia ? media.accessibleText : showsAssistant ? assistant.summary : face.accessibleText;
+    }
     Accessible.ignored: !island.showsWings
 
     Follower on opacity {
@@ -27,9 +36,24 @@ Item {
         fallDuration: 80
     }
 
-    Item {
+    component Part: Item {
+        property bool shown
+
         anchors.fill: parent
-        visible: wings.island.wingsShowMedia
+        visible: opacity > 0
+
+        Follower on opacity {
+            to: shown ? 1 : 0
+            curve: Follower.Linear
+            enabled: wings.live && wings.visible
+            riseDelay: 80
+            riseDuration: 140
+            fallDuration: 80
+        }
+    }
+
+    Part {
+        shown: wings.showsMedia
 
         Artwork {
             id: art
@@ -50,6 +74,11 @@ Item {
                 riseDuration: wings.island.reducedMotion ? 150 : 240
             }
         }
+    }
+
+    Part {
+        shown: wings.showsMedia && !wings.showsAssistant
+
         Waveform {
             height: 14
             anchors.right: parent.right
@@ -62,9 +91,70 @@ Item {
         }
     }
 
-    Item {
-        anchors.fill: parent
-        visible: !wings.island.wingsShowMedia
+    Part {
+        shown: wings.showsMedia && wings.showsAssistant
+
+        PulsingDot {
+            width: 24
+            height: 24
+            anchors.right: parent.right
+            anchors.rightMargin: 6
+            anchors.verticalCenter: parent.verticalCenter
+            color: wings.assistant.badgeColor
+            active: wings.assistant.active
+            still: wings.island.reducedMotion
+        }
+    }
+
+    Part {
+        shown: wings.showsAssistant && !wings.showsMedia
+
+        PulsingDot {
+            id: dot
+
+            width: 24
+            height: 24
+            anchors.left: parent.left
+            anchors.leftMargin: 4
+            anchors.verticalCenter: parent.verticalCenter
+            color: wings.assistant.badgeColor
+            active: wings.assistant.active
+            still: wings.island.reducedMotion
+        }
+        Text {
+            id: label
+
+            anchors.left: wings.parted ? undefined : dot.right
+            anchors.leftMargin: -1
+            anchors.right: wings.parted ? parent.right : undefined
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, wings.parted ? 66 : 130)
+            text: wings.assistant.badgeLabel
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            font: Type.text
+            color: Ink.content
+        }
+        Text {
+            anchors.left: label.right
+            anchors.leftMargin: 16
+            anchors.right: parent.right
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !wings.parted
+            text: wings.assistant.project
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            maximumLineCount: 1
+            horizontalAlignment: Text.AlignRight
+            font: Type.text
+            color: Ink.secondary
+        }
+    }
+
+    Part {
+        shown: !wings.showsMedia && !wings.showsAssistant
 
         Glyph {
             width: 18

@@ -2,6 +2,7 @@
 
 #include "app/AudioOutputPicker.h"
 #include "app/FileTray.h"
+#include "claude/ClaudeCodeMonitor.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
@@ -13,8 +14,10 @@
 #include "support/FakeGlobalEvents.h"
 #include "support/FakeHaptics.h"
 #include "support/FakeMedia.h"
+#include "support/FakeMessageSocketServer.h"
 #include "support/FakePanelWindow.h"
 #include "support/FakeScreens.h"
+#include "support/FakeUserFiles.h"
 #include "support/ManualRunLoop.h"
 #include "support/SettingsFixture.h"
 #include "views/DashboardModel.h"
@@ -60,7 +63,10 @@ struct IslandFixture {
     FakeAudioHardware audio;
     AudioOutputPicker picker{audio, fixture.notifications};
     FileTray tray{settings};
-    DashboardModel dashboard{runLoop, settings, hud, content, picker, tray, appearance};
+    FakeMessageSocketServer socket{runLoop};
+    FakeUserFiles files;
+    ClaudeCodeMonitor claudeCode{runLoop, logger, socket, files, {.home = dir.path()}};
+    DashboardModel dashboard{runLoop, settings, hud, content, picker, tray, claudeCode, appearance};
 };
 
 } // namespace quillmere

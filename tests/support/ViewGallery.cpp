@@ -2,6 +2,7 @@
 // ViewGallery DIRECTORY [SCENE] writes numbered pictures, at the scale of QT_SCALE_FACTOR; of the
 // scenes whose names begin with SCENE only.
 
+#include "claude/HookEvent.h"
 #include "platform/Symbols.h"
 #include "support/IslandFixture.h"
 #include "views/IslandWindow.h"
@@ -64,6 +65,7 @@ public:
         hud.clearNowPlaying();
         while (!hud.hudQueue().isEmpty())
             hud.removeActivity(0);
+        claudeCode.stop();
         picker.close();
         tray.remove(sampleFile);
         content.pages().show(IslandPage::Main);
@@ -147,6 +149,25 @@ void play(Stage &stage, const Track &track)
     stage.runLoop.advance(10ms);
 }
 
+/// What the assistant's hook reports.
+struct Report {
+    const char *event = "PreToolUse";
+    const char *project = "/home/ada/quillmere";
+    const char *prompt = "make the HUD spring feel right at 2x";
+    const char *tool = "Edit";
+};
+
+void assist(Stage &stage, const Report &report)
+{
+    HookEvent event{.cwd = QString::fromUtf8(report.project),
+                    .event = QString::fromUtf8(report.event),
+                    .tool = QString::fromUtf8(report.tool)};
+    if (*report.prompt)
+        event.userPrompt = QString::fromUtf8(report.prompt);
+    stage.claudeCode.handle(event);
+    stage.fixture.settings.showFileTray.set(true);
+}
+
 std::vector<Scene> scenes()
 {
     const auto volume = [](double percent, HUDColorTheme theme = HUDColorTheme::White) {
@@ -195,6 +216,24 @@ std::vector<Scene> scenes()
             play(stage, track);
         };
     };
+    const auto assistant = [](const Report &report, std::function<void(Stage &)> then = {}) {
+        return [=](Stage &stage) {
+            assist(stage, report);
+            if (then)
+                then(stage);
+        };
+    };
+    const auto open = [](Stage &stage) { stage.content.toggle(); };
+    const auto activity = [](Stage &stage) {
+        stage.hud.show(sampleDevice(), true, 1);
+        stage.runLoop.advance(2s);
+    };
+    const Report longReport{
+        .project = "/home/ada/a-repository-with-a-name-that-somebody-thought-about-for-an-hour",
+        .prompt =
+            "\U0001f469\u200d\U0001f4bb <b>please</b> look at\nthe whole of the island, and then "
+            "at every \u202ecard of it, one by one and without haste",
+        .tool = "mcp__a_server_with_many_tools__and_a_tool_of_many_words_that_never_ends"};
     const Track longTrack{
         .title = "Concerto for Two Violins, Strings and Continuo in D Minor, Largo ma non tanto",
         .artist = "An Orchestra of Quite Some Size With Soloists From Both Sides of the River, "
@@ -275,6 +314,97 @@ std::vector<Scene> scenes()
         {"media-wings", compact({}, WaveformStyle::Gradient)},
         {"media-wings-plain", compact({}, WaveformStyle::Monochrome)},
         {"media-wings-paused", compact({.artwork = {}, .playing = false}, WaveformStyle::Colored)},
+        {"assistant-wings", assistant({})},
+        {"assistant-wings-waiting", assistant({.event = "PermissionRequest"})},
+        {"assistant-wings-compacting", assistant(longReport,
+                                                 [](Stage &stage) {
+                                                     stage.claudeCode.handle(
+                                                         {.cwd = QStringLiteral("/"),
+                                                          .event = QStringLiteral("PreCompact")});
+                                                 })},
+        {"assistant-wings-long", assistant(longReport)},
+        {"assistant-wings-media", assistant({}, [](Stage &stage) { play(stage, {}); })},
+        {"assistant-wings-changing",
+         assistant({},
+                   [](Stage &stage) {
+                       wait(900);
+                       play(stage, {});
+                   }),
+         150},
+        {"assistant-wings-housing",
+         [=](Stage &stage) {
+             stage.screens.list = {
+                 FakeScreens::notched(QStringLiteral("Screen"), {0, 0, 1512, 900}, 32, 663, 849)};
+             stage.panel.displaysDidChange();
+             assist(stage, {.event = "PreCompact"});
+         }},
+        {"assistant",
+         [=](Stage &stage) {
+             stage.screens.list = {FakeScreens::plain(QStringLiteral("Screen"), {0, 0, 1512, 900})};
+             stage.panel.displaysDidChange();
+             assist(stage, {});
+             open(stage);
+         }},
+        {"assistant-waiting", assistant({.event = "PermissionRequest", .tool = "Bash"}, open)},
+        {"assistant-compacting", assistant({.event = "PreCompact", .prompt = ""}, open)},
+        {"assistant-idle", assistant({.event = "Stop"},
+                                     [=](Stage &stage) {
+                                         stage.runLoop.advance(150s);
+                                         open(stage);
+                                     })},
+        {"assistant-unknown", assistant({.project = "", .prompt = "", .tool = ""}, open)},
+        {"assistant-long", assistant(longReport, open)},
+        {"assistant-activity", assistant({},
+                                         [=](Stage &stage) {
+                                             activity(stage);
+                                             open(stage);
+                                         })},
+        {"assistant-activity-turned", assistant({},
+                                                [=](Stage &stage) {
+                                                    activity(stage);
+                                                    activity(stage);
+                                                    open(stage);
+                                                    wait(900);
+                                                    const QPointF more(552, 154);
+                                                    stage.pointer(QEvent::MouseMove, more);
+                                                    stage.pointer(QEvent::MouseButtonPress, more);
+                                                    stage.pointer(QEvent::MouseButtonRelease, more);
+                                                })},
+        {"assistant-idle-activity", assistant({.event = "Stop"},
+                                              [=](Stage &stage) {
+                                                  activity(stage);
+                                                  open(stage);
+                                              })},
+        {"assistant-media", assistant({},
+                                      [=](Stage &stage) {
+                                          play(stage, {});
+                                          open(stage);
+                                      })},
+        {"assistant-media-activity", assistant({.event = "PermissionRequest"},
+                                               [=](Stage &stage) {
+                                                   activity(stage);
+                                                   play(stage, {});
+                                                   open(stage);
+                                               })},
+        {"assistant-right-to-left",
+         [=](Stage &stage) {
+             QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+             assist(stage,
+                    {.project = "/home/u/\u05e4\u05e8\u05d5\u05d9\u05e7\u05d8",
+                     .prompt = "\u05e9\u05dc\u05d5\u05dd, \u05ea\u05e7\u05df "
+                               "\u05d0\u05ea HUDManager.cpp \u05d1\u05d1\u05e7\u05e9\u05d4"});
+             activity(stage);
+             open(stage);
+         }},
+        {"assistant-wings-right-to-left", assistant({})},
+        {"assistant-right-to-left-prompt",
+         [=](Stage &stage) {
+             QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+             assist(stage,
+                    {.prompt = "\u05e9\u05dc\u05d5\u05dd, \u05ea\u05e7\u05df "
+                               "\u05d0\u05ea HUDManager.cpp \u05d1\u05d1\u05e7\u05e9\u05d4"});
+             open(stage);
+         }},
         {"wings",
          [](Stage &stage) {
              stage.fixture.settings.idleActivityMostRecent.set(true);

@@ -1,0 +1,138 @@
+#include "views/AssistantModel.h"
+
+#include "claude/ClaudeCodeMonitor.h"
+#include "platform/RunLoop.h"
+#include "views/PlainText.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quillmere {
+
+namespace {
+
+constexpr qsizetype longestName = 80;
+constexpr qsizetype longestPrompt = 200;
+
+constexpr qint64 minute = 60; // seconds
+constexpr qint64 hour = 60 * minute;
+constexpr qint64 day = 24 * hour;
+
+struct StatusLook {
+    const char *label;
+    QColor color;
+};
+
+const StatusLook &look(ClaudeCodeStatus status)
+{
+    static const std::array<StatusLook, 4> looks{{
+        {QT_TRANSLATE_NOOP("quillmere::AssistantModel", "Idle"), QColor::fromRgbF(1, 1, 1, 0.4F)},
+        {QT_TRANSLATE_NOOP("quillmere::AssistantModel", "Working..."),
+         QColor::fromRgbF(0.851F, 0.471F, 0.337F)},
+        {QT_TRANSLATE_NOOP("quillmere::AssistantModel", "Waiting"), QColor(0x64, 0xb5, 0xff)},
+        {QT_TRANSLATE_NOOP("quillmere::AssistantModel", "Compacting"), QColor(0xff, 0xd5, 0x4a)},
+    }};
+    return looks.at(static_cast<std::size_t>(status));
+}
+
+} // namespace
+
+QString assistantLabel(ClaudeCodeStatus status)
+{
+    return AssistantModel::tr(look(status).label);
+}
+
+QColor assistantColor(ClaudeCodeStatus status)
+{
+    return look(status).color;
+}
+
+QString sinceText(qint64 seconds)
+{
+    if (seconds < minute)
+        return AssistantModel::tr("now");
+    if (seconds < hour)
+        return AssistantModel::tr("%1 min ago").arg(seconds / minute);
+    if (seconds < day)
+        return AssistantModel::tr("%1 h ago").arg(seconds / hour);
+    return seconds < 2 * day ? AssistantModel::tr("1 day ago")
+                             : AssistantModel::tr("%1 days ago").arg(seconds / day);
+}
+
+AssistantModel::AssistantModel(RunLoop &runLoop, ClaudeCodeMonitor &monitor, QObject *parent)
+    : QObject(parent)
+    , runLoop_(runLoop)
+    , monitor_(monitor)
+{
+    connect(&monitor_, &ClaudeCodeMonitor::currentSessionChanged, this, &AssistantModel::update);
+    connect(&monitor_, &ClaudeCodeMonitor::statusChanged, this, &AssistantModel::update);
+    update();
+}
+
+void AssistantModel::setWatched(bool watched)
+{
+    if (std::exchange(watched_, watched) != watched)
+        followClock();
+}
+
+void AssistantModel::update()
+{
+    const auto &session = monitor_.currentSession();
+    Face face = face_;
+    face.status = monitor_.status();
+    if (face.status != ClaudeCodeStatus::Idle)
+        face.badge = face.status;
+    if (session) {
+        face.project = plainText(session->projectName, longestName);
+        if (face.project.isEmpty())
+            face.project = tr("Claude Code");
+        face.tool = face.status == ClaudeCodeStatus::Idle
+                        ? QString()
+                        : plainText(session->currentTool.value_or(QString()), longestName);
+        face.prompt = plainText(session->lastPrompt.value_or(QString()), longestPrompt);
+    }
+    const bool wasActive = isActive();
+    if (std::exchange(face_, face) != face)
+        Q_EMIT faceChanged();
+    if (isActive() != wasActive)
+        Q_EMIT activeChanged();
+    followClock();
+    if (std::exchange(hasSession_, session.has_value()) != session.has_value())
+        Q_EMIT hasSessionChanged();
+}
+
+void AssistantModel::followClock()
+{
+    nextMinute_.cancel();
+    const auto &session = monitor_.currentSession();
+    if (!session)
+        return;
+    const qint64 seconds = session->lastUpdate.secsTo(runLoop_.date());
+    const QString since = sinceText(seconds);
+    if (std::exchange(since_, since) != since)
+        Q_EMIT sinceChanged();
+    updateAccessibleText();
+    if (watched_)
+        nextMinute_ =
+            runLoop_.after(std::chrono::seconds(minute - std::max<qint64>(seconds, 0) % minute),
+                           [this] { followClock(); });
+}
+
+QString AssistantModel::summary() const
+{
+    return tr("Claude Code: %1, %2").arg(label(), project());
+}
+
+void AssistantModel::updateAccessibleText()
+{
+    QStringList parts{summary(), tool(), prompt(), since()};
+    parts.removeAll(QString());
+    const QString text = parts.join(tr(", "));
+    if (std::exchange(accessibleText_, text) != text)
+        Q_EMIT accessibleTextChanged();
+}
+
+} // namespace quillmere
