@@ -129,7 +129,7 @@ Item {
             anchors.right: wings.parted ? parent.right : undefined
             anchors.rightMargin: 12
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, wings.parted ? 66 : 130)
+            width: Math.min(implicitWidth, wings.parted ? 72 : 130)
             text: wings.assistant.badgeLabel
             textFormat: Text.PlainText
             elide: Text.ElideRight

@@ -36,6 +36,8 @@ struct IslandFixture {
         panel.takesScroll = [this](const ScrollEvent &event) {
             return gestures.takesScroll(event);
         };
+        QObject::connect(&claudeCode, &ClaudeCodeMonitor::isActiveChanged, &wings,
+                         [this] { wings.setAssistantActive(claudeCode.isActive()); });
         panel.displaysDidChange();
         runLoop.advance(std::chrono::seconds(4));
     }

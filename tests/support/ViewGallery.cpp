@@ -66,6 +66,9 @@ public:
         while (!hud.hudQueue().isEmpty())
             hud.removeActivity(0);
         claudeCode.stop();
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        screens.list = {FakeScreens::plain(QStringLiteral("Screen"), {0, 0, 1512, 900})};
+        panel.displaysDidChange();
         picker.close();
         tray.remove(sampleFile);
         content.pages().show(IslandPage::Main);
@@ -234,6 +237,10 @@ std::vector<Scene> scenes()
             "\U0001f469\u200d\U0001f4bb <b>please</b> look at\nthe whole of the island, and then "
             "at every \u202ecard of it, one by one and without haste",
         .tool = "mcp__a_server_with_many_tools__and_a_tool_of_many_words_that_never_ends"};
+    const Report rightToLeftReport{
+        .project = "/home/u/\u05e4\u05e8\u05d5\u05d9\u05e7\u05d8",
+        .prompt = "\u05e9\u05dc\u05d5\u05dd, \u05ea\u05e7\u05df "
+                  "\u05d0\u05ea HUDManager.cpp \u05d1\u05d1\u05e7\u05e9\u05d4"};
     const Track longTrack{
         .title = "Concerto for Two Violins, Strings and Continuo in D Minor, Largo ma non tanto",
         .artist = "An Orchestra of Quite Some Size With Soloists From Both Sides of the River, "
@@ -281,11 +288,7 @@ std::vector<Scene> scenes()
              QGuiApplication::setLayoutDirection(Qt::RightToLeft);
              media(rightToLeft, true)(stage);
          }},
-        {"media-no-artwork",
-         [=](Stage &stage) {
-             QGuiApplication::setLayoutDirection(Qt::LeftToRight);
-             media({.artwork = {}})(stage);
-         }},
+        {"media-no-artwork", [=](Stage &stage) { media({.artwork = {}})(stage); }},
         {"media-no-duration", media({.duration = 0})},
         {"media-light-artwork", media({.artwork = {0xffffffff, 0xfff3f3f0, 0xffe6e2da}})},
         {"media-dark-artwork", media({.artwork = {0xff101018, 0xff050508, 0xff000000}})},
@@ -338,13 +341,7 @@ std::vector<Scene> scenes()
              stage.panel.displaysDidChange();
              assist(stage, {.event = "PreCompact"});
          }},
-        {"assistant",
-         [=](Stage &stage) {
-             stage.screens.list = {FakeScreens::plain(QStringLiteral("Screen"), {0, 0, 1512, 900})};
-             stage.panel.displaysDidChange();
-             assist(stage, {});
-             open(stage);
-         }},
+        {"assistant", assistant({}, open)},
         {"assistant-waiting", assistant({.event = "PermissionRequest", .tool = "Bash"}, open)},
         {"assistant-compacting", assistant({.event = "PreCompact", .prompt = ""}, open)},
         {"assistant-idle", assistant({.event = "Stop"},
@@ -386,25 +383,17 @@ std::vector<Scene> scenes()
                                                    play(stage, {});
                                                    open(stage);
                                                })},
-        {"assistant-right-to-left",
-         [=](Stage &stage) {
-             QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-             assist(stage,
-                    {.project = "/home/u/\u05e4\u05e8\u05d5\u05d9\u05e7\u05d8",
-                     .prompt = "\u05e9\u05dc\u05d5\u05dd, \u05ea\u05e7\u05df "
-                               "\u05d0\u05ea HUDManager.cpp \u05d1\u05d1\u05e7\u05e9\u05d4"});
-             activity(stage);
-             open(stage);
-         }},
-        {"assistant-wings-right-to-left", assistant({})},
-        {"assistant-right-to-left-prompt",
-         [=](Stage &stage) {
-             QGuiApplication::setLayoutDirection(Qt::LeftToRight);
-             assist(stage,
-                    {.prompt = "\u05e9\u05dc\u05d5\u05dd, \u05ea\u05e7\u05df "
-                               "\u05d0\u05ea HUDManager.cpp \u05d1\u05d1\u05e7\u05e9\u05d4"});
-             open(stage);
-         }},
+        {"assistant-right-to-left", assistant(rightToLeftReport,
+                                              [=](Stage &stage) {
+                                                  QGuiApplication::setLayoutDirection(
+                                                      Qt::RightToLeft);
+                                                  activity(stage);
+                                                  open(stage);
+                                              })},
+        {"assistant-wings-right-to-left",
+         assistant(rightToLeftReport,
+                   [](Stage &) { QGuiApplication::setLayoutDirection(Qt::RightToLeft); })},
+        {"assistant-right-to-left-prompt", assistant(rightToLeftReport, open)},
         {"wings",
          [](Stage &stage) {
              stage.fixture.settings.idleActivityMostRecent.set(true);
