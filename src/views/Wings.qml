@@ -52,6 +52,15 @@ Item {
         }
     }
 
+    component Word: Text {
+        anchors.verticalCenter: parent.verticalCenter
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        maximumLineCount: 1
+        font: Type.text
+        color: Ink.content
+    }
+
     Part {
         shown: wings.showsMedia
 
@@ -121,35 +130,31 @@ Item {
             active: wings.assistant.active
             still: wings.island.reducedMotion
         }
-        Text {
+        Word {
             id: label
 
-            anchors.left: wings.parted ? undefined : dot.right
+            anchors.left: dot.right
             anchors.leftMargin: -1
-            anchors.right: wings.parted ? parent.right : undefined
-            anchors.rightMargin: 12
-            anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, wings.parted ? 72 : 130)
+            width: Math.min(implicitWidth, 130)
+            visible: !wings.parted
             text: wings.assistant.badgeLabel
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            font: Type.text
-            color: Ink.content
         }
-        Text {
+        Word {
             anchors.left: label.right
             anchors.leftMargin: 16
             anchors.right: parent.right
             anchors.rightMargin: 12
-            anchors.verticalCenter: parent.verticalCenter
             visible: !wings.parted
-            text: wings.assistant.project
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            maximumLineCount: 1
             horizontalAlignment: Text.AlignRight
-            font: Type.text
+            text: wings.assistant.project
             color: Ink.secondary
+        }
+        Word {
+            anchors.right: parent.right
+            anchors.rightMargin: 12
+            width: Math.min(implicitWidth, 72)
+            visible: wings.parted
+            text: wings.assistant.badgeLabel
         }
     }
 

@@ -67,6 +67,7 @@ class PrivateDesktop:
         self.primary = Monitor("QM-A", 1512 * scale, 982 * scale, 0)
         self.secondary = Monitor("QM-B", 1280 * scale, 800 * scale, self.primary.width)
         self.hardware_env = {}  # what shows a program the hardware that was added, see backlight.py
+        self.prefix = []  # what the program's command line begins with, see assistant.py
         self._processes = []
         self._sound = None
 

@@ -54,7 +54,7 @@ class Island:
     def start(self):
         self.started = time.monotonic()
         env = self.desktop.env | self.desktop.hardware_env
-        self.process = self.desktop.spawn([str(self.program)], self._stderr, env=env)
+        self.process = self.desktop.spawn([*self.desktop.prefix, str(self.program)], self._stderr, env=env)
         wait_until(self._is_up, timeout=20, what="the island on the bus")
         return self
 
