@@ -13,6 +13,7 @@ from desktop import PipeWireDesktop, PrivateDesktop, end_process, wait_until
 from drag import Drag
 from island import Island, is_black
 from players import Bus, make_track, start_mpv
+from wayland import WaylandDesktop
 
 STRIP = 300  # logical units of the screen's top that a screenshot shows
 SETTINGS = {"autoCollapseDelay": 0.7, "showFileTray": True, "idleActivityMostRecent": True}
@@ -264,6 +265,40 @@ class Tour:
         self.settled("film-over")
 
 
+class WaylandTour(Tour):
+    """The same basics on a native surface of a Wayland compositor."""
+
+    def settled(self, name, monitor=None):
+        time.sleep(0.8)
+        self.shoot(name, monitor)
+
+    def point(self, x, y):
+        self.desktop.pointer.move(self._middle() + x, y)
+
+    def press(self, x, y):
+        self.desktop.pointer.click(self._middle() + x, y)
+
+    def _middle(self):
+        return self.desktop.primary.width // self.desktop.scale // 2
+
+    def basics(self):
+        self.settled("sway-collapsed")
+        self.desktop.set_volume(40)
+        self.island.wait_for_hud(0.4)
+        self.settled("sway-volume")
+        self.island.wait_until_collapsed()
+        self.open()
+        self.settled("sway-dashboard")
+        self.leave()
+        self.settled("sway-left-and-closed")
+
+
+def visit_wayland(album, build, scale):
+    with WaylandDesktop(scale) as desktop, Island(desktop, build, SETTINGS) as island:
+        island.wait_out_mute()
+        WaylandTour(album, desktop, island, "dark").basics()
+
+
 def visit(album, build, look, scale, kind=PrivateDesktop):
     with contextlib.ExitStack() as stack:
         desktop = stack.enter_context(kind(scale, look))
@@ -298,6 +333,8 @@ def main():
     for look, scale in [("dark", 1), ("dark", 2), ("light", 1), ("light", 2)]:
         visit(album, build, look, scale)
     visit(album, build, "dark", 1, PipeWireDesktop)
+    for scale in (1, 2):
+        visit_wayland(album, build, scale)
 
 
 if __name__ == "__main__":
