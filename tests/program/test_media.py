@@ -155,6 +155,10 @@ class MediaTest(IslandTest):
         self.assertGreater(time.monotonic() - killed, IDLE - 0.5)
 
     def test_a_stream_has_no_playhead(self):
+        # mpv calls its length what it has received so far.
+        player = self.start("--demuxer=rawaudio", "--force-media-title=Noise", "/dev/zero")
+        self.wait_for(title="Noise", isPlaying=True, mediaProgress=None)
+        player.end()
         with ScriptedPlayer(self.desktop) as player:
             player.play("Endless Radio", seconds=None)
             self.wait_for(title="Endless Radio", isPlaying=True, mediaProgress=None, mediaElapsed=None)

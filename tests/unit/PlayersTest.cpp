@@ -143,6 +143,22 @@ Candidate player(const char *name, Status status, std::optional<Duration> began 
     return candidate;
 }
 
+TEST(PlayheadTest, DoesNotTakeForALengthWhatKeepsGrowing)
+{
+    ToldLength told;
+    Instant now = start;
+    for (const double length : {3.0, 3.0, 60.0, 60.0}) { // learnt late
+        told = toldAgain(told, length, now += 1s);
+        EXPECT_EQ(trustedLength(told, now), length);
+    }
+    told = toldAgain(told, 61, now += 1s);
+    EXPECT_EQ(trustedLength(told, now), std::nullopt);
+    told = toldAgain(told, 61, now += 9s);
+    EXPECT_EQ(trustedLength(told, now), std::nullopt);
+    told = toldAgain(told, 61, now += 2s);
+    EXPECT_EQ(trustedLength(told, now), 61);
+}
+
 TEST(ElectionTest, ElectsWhomPeopleMean)
 {
     auto untitled = player("untitled", Status::Playing, 9s);

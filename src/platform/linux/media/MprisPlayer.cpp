@@ -180,7 +180,7 @@ void MprisPlayer::take(const MprisReport &report, Instant heardAt)
     failures_ = 0;
     if (!report.track)
         complaints_.tell("A track without sense is ignored", suffix_);
-    const Track track = report.track.value_or(track_);
+    const Track track = believed(report.track, heardAt);
     const Change change{.info = !isKnown_ || differs(track, track_) || report.rate != rate_,
                         .isPlaying = report.status != status_,
                         .art = track.art};
@@ -195,6 +195,18 @@ void MprisPlayer::take(const MprisReport &report, Instant heardAt)
     shuffle_ = report.shuffle;
     loop_ = report.loop;
     onReport_(*this, change);
+}
+
+Track MprisPlayer::believed(const std::optional<Track> &told, Instant heardAt)
+{
+    if (!told)
+        return track_;
+    Track track = *told;
+    if (!track.isSamePiece(track_))
+        length_ = {};
+    length_ = toldAgain(length_, track.duration, heardAt);
+    track.duration = trustedLength(length_, heardAt);
+    return track;
 }
 
 void MprisPlayer::moveTo(const Track &track, double rate, std::optional<double> position,

@@ -77,6 +77,7 @@ private:
     void read();
     void failed(const QDBusError &error);
     void take(const MprisReport &report, Instant heardAt);
+    Track believed(const std::optional<Track> &told, Instant heardAt);
     void moveTo(const Track &track, double rate, std::optional<double> position, Instant heardAt);
     void set(const char *property, const QVariant &value);
     void announceSeek();
@@ -100,6 +101,7 @@ private:
     std::optional<bool> shuffle_;
     std::optional<LoopStatus> loop_;
     double rate_ = 1;
+    ToldLength length_; // of track_
     Playhead playhead_;
     std::optional<Instant> began_;
 

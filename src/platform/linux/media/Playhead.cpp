@@ -9,6 +9,8 @@ namespace {
 
 constexpr double roundingError = 2; // s, that a position may be beyond either end of the track
 constexpr double farthest = 1e7;    // s, of a track without an end
+constexpr int correction = 1;       // growth of a length that was but estimated
+constexpr Duration growthPause = std::chrono::seconds(10);
 constexpr double withinSecond = 0.999;
 
 bool isPlausible(double told, std::optional<double> duration)
@@ -17,6 +19,22 @@ bool isPlausible(double told, std::optional<double> duration)
 }
 
 } // namespace
+
+ToldLength toldAgain(ToldLength before, std::optional<double> length, Instant now)
+{
+    if (length && before.length && *length > *before.length) {
+        ++before.growths;
+        before.grew = now;
+    }
+    before.length = length;
+    return before;
+}
+
+std::optional<double> trustedLength(const ToldLength &told, Instant now)
+{
+    const bool isGrowing = told.growths > correction && now - told.grew < growthPause;
+    return isGrowing ? std::nullopt : told.length;
+}
 
 double positionAt(const Playhead &head, Instant now, std::optional<double> duration)
 {

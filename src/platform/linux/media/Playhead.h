@@ -14,6 +14,19 @@ struct Playhead {
     bool tellsFractions = false; ///< the player knows more than whole seconds
 };
 
+/// What a player has told of the length of one piece. A plain value.
+struct ToldLength {
+    std::optional<double> length; ///< s, as told last
+    int growths = 0;
+    Instant grew{};
+};
+
+/// The player has told it again.
+ToldLength toldAgain(ToldLength before, std::optional<double> length, Instant now);
+
+/// Some players tell of a stream what they have received so far: what keeps growing is no length.
+std::optional<double> trustedLength(const ToldLength &told, Instant now);
+
 /// Where it is now, within the track.
 double positionAt(const Playhead &head, Instant now, std::optional<double> duration);
 
