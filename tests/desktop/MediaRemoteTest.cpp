@@ -47,6 +47,17 @@ struct MediaRemoteTest : testing::Test {
         return true;
     }
 
+    /// What another program is told.
+    QVariant property(const QString &player, const QString &name) const
+    {
+        auto question = QDBusMessage::createMethodCall(
+            u"org.mpris.MediaPlayer2."_s + player, u"/org/mpris/MediaPlayer2"_s,
+            u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+        question << u"org.mpris.MediaPlayer2.Player"_s << name;
+        const auto answer = bus.connect().call(question).arguments().value(0);
+        return answer.canConvert<QDBusVariant>() ? answer.value<QDBusVariant>().variant() : answer;
+    }
+
     BusServer bus;
     NotificationCenter notifications;
     FakeHttpClient http;
@@ -137,6 +148,12 @@ TEST_F(HostilePlayerTest, NoNonsenseChangesWhatIsKnown)
     EXPECT_LE(log.take().size(), 3); // one of each kind
 
     become("good");
+    EXPECT_FALSE(remote.cycleRepeat()); // which it does not have
+    for (const bool isShuffled : {true, false}) {
+        askLate();
+        EXPECT_TRUE(remote.toggleShuffle());
+        EXPECT_TRUE(waitUntil([&] { return property(u"hostile"_s, u"Shuffle"_s) == isShuffled; }));
+    }
     program.process().write("vanish\n");
     EXPECT_EQ(ask().value(mediaInfo::title), u"Good"_s); // in the middle of the question
     EXPECT_TRUE(waitForTitle({}));
@@ -283,25 +300,10 @@ TEST_F(RealPlayerTest, ObeyAndTellWhereTheyAre)
     EXPECT_TRUE(remote.sendCommand(MediaRemote::Command::PreviousTrack));
     EXPECT_TRUE(plays(u"First Light"_s, 1));
 
-    ASSERT_TRUE(remote.canShuffle() && remote.canRepeat());
-    const auto says = [this](const QString &property, const QVariant &value) {
-        auto question = QDBusMessage::createMethodCall(
-            u"org.mpris.MediaPlayer2.mpv"_s, u"/org/mpris/MediaPlayer2"_s,
-            u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
-        question << u"org.mpris.MediaPlayer2.Player"_s << property;
-        const auto connection = bus.connect();
-        return waitUntil([&] {
-            const auto answer = connection.call(question).arguments().value(0);
-            return answer.value<QDBusVariant>().variant() == value;
-        });
-    };
-    for (const bool shuffled : {true, false}) {
-        EXPECT_TRUE(remote.toggleShuffle());
-        EXPECT_TRUE(says(u"Shuffle"_s, shuffled));
-    }
+    ASSERT_TRUE(remote.canRepeat());
     for (const QString &loop : {u"Playlist"_s, u"Track"_s, u"None"_s}) {
         EXPECT_TRUE(remote.cycleRepeat());
-        EXPECT_TRUE(says(u"LoopStatus"_s, loop));
+        EXPECT_TRUE(waitUntil([&] { return property(u"mpv"_s, u"LoopStatus"_s) == loop; }));
     }
 
     const auto other = startPlayer({second}); // begins later

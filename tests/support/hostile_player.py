@@ -56,6 +56,7 @@ def good():
         "Rate": 1.0,
         "Position": dbus.Int64(1_500_000),
         "CanSeek": True,
+        "Shuffle": False,
         "Metadata": dbus.Dictionary(metadata, "sv"),
     }
 
@@ -103,8 +104,12 @@ class Player:
                 self.note = None
         elif message.get_member() == "Get":
             known = self.answer[0] if isinstance(self.answer, list) and self.answer else None
-            position = known.get("Position") if isinstance(known, dict) else None
-            self.reply(message, [position] if position is not None else "error")
+            value = known.get(message.get_args_list()[1]) if isinstance(known, dict) else None
+            self.reply(message, [value] if value is not None else "error")
+        elif message.get_member() == "Set":
+            _, name, value = message.get_args_list()
+            self.answer = [dbus.Dictionary(good() | {name: value}, "sv")]
+            self.reply(message, [])
         else:
             self.reply(message, "error")
         return dbus.lowlevel.HANDLER_RESULT_HANDLED
