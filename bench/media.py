@@ -44,7 +44,8 @@ class Media:
             for step, followed, fresh, stale in sampler.rows:
                 self.measurement.row(
                     f"playhead, {step}",
-                    f"there after {followed:.2f} s, then at most {fresh:.2f} s off when published, {stale:.2f} at any time",
+                    f"there after {followed:.2f} s, then at most {fresh:.2f} s off when published, "
+                    f"{stale:.2f} at any time",
                 )
 
     # -- cost -----------------------------------------------------------------------------------

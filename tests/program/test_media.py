@@ -162,7 +162,8 @@ class MediaTest(IslandTest):
         with ScriptedPlayer(self.desktop) as player:
             player.play("Endless Radio", seconds=None)
             self.wait_for(title="Endless Radio", isPlaying=True, mediaProgress=None, mediaElapsed=None)
-            wait_until(lambda: ("POLLER", 'title="Endless Radio" NO_DURATION — direct set') in self.log(), what="its line")
+            line = "POLLER", 'title="Endless Radio" NO_DURATION — direct set'
+            wait_until(lambda: line in self.log(), what="its line")
 
     def test_a_page_in_a_browser(self):
         with chromium_playing(self.desktop, self.bus, "Web Song", "Web Artist", "orange") as browser:

@@ -187,7 +187,7 @@ class Tour:
         player = start_mpv(
             self.desktop, bus,
             make_track(folder, "First Light", "The Testers", 227, "0x1fa39a:0xf28a2e"),
-            make_track(folder, long, "An Orchestra of Many Names, Its Choir and Its Soloists", 4000, "0x8a2be2:0xff5f87"),
+            make_track(folder, long, "An Orchestra of Many Names, Its Choir, Its Soloists", 4000, "0x8a2be2:0xff5f87"),
             make_track(folder, "No Cover", "The Testers", 95),
         )  # fmt: skip
 
