@@ -113,7 +113,7 @@ class Media:
         def log_polls(desktop):
             Island.write_file(desktop.dir / "config" / "quillmere" / "local.json", json.dumps(logged))
 
-        with self.measurement.running(hardware=log_polls) as (desktop, _):
+        with self.measurement.running(hardware=log_polls) as (desktop, island):
             bus = Bus(desktop)
             player = desktop.spawn(
                 ["/usr/bin/python3", str(HOSTILE_PLAYER)], "hostile.log", stdin=subprocess.PIPE, stdout=subprocess.PIPE
@@ -121,7 +121,7 @@ class Media:
             wait_until(lambda: bus.now_playing().get("title") == "Good", what="the player")
             player.stdout.readline()
             quiet = answers(bus, seconds)
-            before = polls(desktop)
+            before, busy = polls(desktop), main_thread(island)
             player.stdin.write(b"storm %d\n" % (1000 * seconds))
             player.stdin.flush()
             begun = time.monotonic()
@@ -133,6 +133,8 @@ class Media:
                 f"{(polls(desktop) - before) / passed:.2f} polls a second; the player was asked for its "
                 f"properties {asked / passed:.1f} times a second",
             )
+            share = (main_thread(island) - busy) / passed
+            self.measurement.row("main thread in the storm, with the questions", f"busy {100 * share:.1f} % of the time")
             for what, times in (("quiet", quiet), ("in the storm", stormy)):
                 self.measurement.row(f"answer of the main thread, 200 questions a second, {what}", self.spread(times))
 
@@ -146,6 +148,11 @@ class Media:
 def polls(desktop):
     (path,) = desktop.dir.rglob("debug.log")
     return path.read_text().count("[POLLER]")
+
+
+def main_thread(island):
+    """Its time on a processor so far, in seconds."""
+    return island.threads()[str(island.process.pid)][2] / 1e9
 
 
 def answers(bus, seconds):
