@@ -134,7 +134,7 @@ class Media:
                 f"properties {asked / passed:.1f} times a second",
             )
             share = (main_thread(island) - busy) / passed
-            self.measurement.row("main thread in the storm, with the questions", f"busy {100 * share:.1f} % of the time")
+            self.measurement.row("main thread in the storm and of the questions", f"busy {100 * share:.1f} %")
             for what, times in (("quiet", quiet), ("in the storm", stormy)):
                 self.measurement.row(f"answer of the main thread, 200 questions a second, {what}", self.spread(times))
 
