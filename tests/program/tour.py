@@ -8,6 +8,7 @@ import contextlib
 import time
 from pathlib import Path
 
+from assistant import Assistant
 from backlight import Backlight
 from desktop import PipeWireDesktop, PrivateDesktop, end_process, wait_until
 from drag import Drag
@@ -16,7 +17,7 @@ from players import Bus, make_track, start_mpv
 from wayland import WaylandDesktop
 
 STRIP = 300  # logical units of the screen's top that a screenshot shows
-SETTINGS = {"autoCollapseDelay": 0.7, "showFileTray": True, "idleActivityMostRecent": True}
+SETTINGS = {"autoCollapseDelay": 0.7, "showFileTray": True, "idleActivityMostRecent": True, "enableClaudeCode": True}
 
 
 class Album:
@@ -167,6 +168,21 @@ class Tour:
         self.settled("outputs-closed")
         self.leave()
 
+    def assistant(self, assistant):
+        """Its dot never stands still while it works, so nothing here waits for that."""
+        assistant.wait_until_listened_to()
+        assistant.report("UserPromptSubmit", prompt="make the HUD spring feel right at 2x")
+        assistant.report("PreToolUse", tool_name="Edit")
+        wait_until(lambda: self.island.get("ClaudeCode").get("currentTool"), what="the tool")
+        time.sleep(0.8)
+        self.shoot("assistant")
+        self.open()
+        time.sleep(0.8)
+        self.shoot("dashboard-assistant")
+        self.leave()
+        assistant.report("Stop")
+        self.settled("assistant-stopped")
+
     def headset(self, name="headset"):
         device = self.desktop.connect_headset()
         wait_until(lambda: self.island.hud().get("type") == "bluetooth", 8, "the HUD of the headset")
@@ -303,6 +319,7 @@ def visit(album, build, look, scale, kind=PrivateDesktop):
     with contextlib.ExitStack() as stack:
         desktop = stack.enter_context(kind(scale, look))
         backlight = Backlight(desktop)
+        assistant = Assistant(desktop, build)
         island = stack.enter_context(Island(desktop, build, SETTINGS))
         tour = Tour(album, desktop, island, look)
         island.wait_out_mute()
@@ -313,6 +330,7 @@ def visit(album, build, look, scale, kind=PrivateDesktop):
             tour.second_monitor()
             tour.dashboard()
             tour.brightness(backlight)
+            tour.assistant(assistant)
             if (look, scale) in (("dark", 1), ("light", 2)):
                 tour.headset()
                 tour.activity()
