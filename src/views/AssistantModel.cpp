@@ -18,8 +18,7 @@ constexpr qsizetype longestName = 80;
 constexpr qsizetype longestPrompt = 200;
 
 constexpr qint64 minute = 60; // seconds
-constexpr qint64 hour = 60 * minute;
-constexpr qint64 day = 24 * hour;
+constexpr qint64 staleAfter = 60 * minute;
 
 struct StatusLook {
     const char *label;
@@ -38,29 +37,19 @@ const StatusLook &look(ClaudeCodeStatus status)
     return looks.at(static_cast<std::size_t>(status));
 }
 
-} // namespace
-
-QString assistantLabel(ClaudeCodeStatus status)
+QString labelOf(ClaudeCodeStatus status)
 {
     return AssistantModel::tr(look(status).label);
-}
-
-QColor assistantColor(ClaudeCodeStatus status)
-{
-    return look(status).color;
 }
 
 QString sinceText(qint64 seconds)
 {
     if (seconds < minute)
         return AssistantModel::tr("now");
-    if (seconds < hour)
-        return AssistantModel::tr("%1 min ago").arg(seconds / minute);
-    if (seconds < day)
-        return AssistantModel::tr("%1 h ago").arg(seconds / hour);
-    return seconds < 2 * day ? AssistantModel::tr("1 day ago")
-                             : AssistantModel::tr("%1 days ago").arg(seconds / day);
+    return AssistantModel::tr("%1 min ago").arg(seconds / minute);
 }
+
+} // namespace
 
 AssistantModel::AssistantModel(RunLoop &runLoop, ClaudeCodeMonitor &monitor, QObject *parent)
     : QObject(parent)
@@ -100,8 +89,6 @@ void AssistantModel::update()
     if (isActive() != wasActive)
         Q_EMIT activeChanged();
     followClock();
-    if (std::exchange(hasSession_, session.has_value()) != session.has_value())
-        Q_EMIT hasSessionChanged();
 }
 
 void AssistantModel::followClock()
@@ -109,16 +96,43 @@ void AssistantModel::followClock()
     nextMinute_.cancel();
     const auto &session = monitor_.currentSession();
     if (!session)
-        return;
-    const qint64 seconds = session->lastUpdate.secsTo(runLoop_.date());
+        return setHasSession(false);
+    const qint64 seconds = std::max<qint64>(0, session->lastUpdate.secsTo(runLoop_.date()));
     const QString since = sinceText(seconds);
     if (std::exchange(since_, since) != since)
         Q_EMIT sinceChanged();
     updateAccessibleText();
-    if (watched_)
-        nextMinute_ =
-            runLoop_.after(std::chrono::seconds(minute - std::max<qint64>(seconds, 0) % minute),
-                           [this] { followClock(); });
+    const bool stale = seconds >= staleAfter;
+    setHasSession(!stale);
+    if (watched_ && !stale)
+        nextMinute_ = runLoop_.after(std::chrono::seconds(minute - seconds % minute),
+                                     [this] { followClock(); });
+}
+
+void AssistantModel::setHasSession(bool hasSession)
+{
+    if (std::exchange(hasSession_, hasSession) != hasSession)
+        Q_EMIT hasSessionChanged();
+}
+
+QString AssistantModel::label() const
+{
+    return labelOf(face_.status);
+}
+
+QColor AssistantModel::color() const
+{
+    return look(face_.status).color;
+}
+
+QString AssistantModel::badgeLabel() const
+{
+    return labelOf(face_.badge);
+}
+
+QColor AssistantModel::badgeColor() const
+{
+    return look(face_.badge).color;
 }
 
 QString AssistantModel::summary() const

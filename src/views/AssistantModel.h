@@ -13,13 +13,6 @@ namespace quillmere {
 class ClaudeCodeMonitor;
 class RunLoop;
 
-/// "Working...", for people.
-QString assistantLabel(ClaudeCodeStatus status);
-QColor assistantColor(ClaudeCodeStatus status);
-
-/// "now", "2 min ago", "3 h ago", "4 days ago"; a time to come is now.
-QString sinceText(qint64 seconds);
-
 /// What the coding assistant does as the island's scene reads it, in texts that are fit to be shown
 /// whoever sent them.
 ///
@@ -46,20 +39,20 @@ class AssistantModel : public QObject
 public:
     AssistantModel(RunLoop &runLoop, ClaudeCodeMonitor &monitor, QObject *parent = nullptr);
 
-    /// Whether `since` is on show: only then it follows the clock.
+    /// Whether the session is on show: only then it follows the clock.
     void setWatched(bool watched);
 
     bool hasSession() const { return hasSession_; }
     bool isActive() const { return face_.status != ClaudeCodeStatus::Idle; }
-    QString label() const { return assistantLabel(face_.status); }
-    QColor color() const { return assistantColor(face_.status); }
-    QString badgeLabel() const { return assistantLabel(face_.badge); } ///< of the last activity
-    QColor badgeColor() const { return assistantColor(face_.badge); }
+    QString label() const;
+    QColor color() const;
+    QString badgeLabel() const; ///< of the last activity
+    QColor badgeColor() const;
     QString project() const { return face_.project; } ///< never empty
     QString tool() const { return face_.tool; }       ///< in use now; empty: none
     QString prompt() const { return face_.prompt; }   ///< empty: none known
     QString summary() const;                 ///< what the pill shows, for who cannot see it
-    QString since() const { return since_; } ///< since the last event
+    QString since() const { return since_; } ///< the last event: "now", "2 min ago"
     QString accessibleText() const { return accessibleText_; } ///< what the card shows, whole
 
 Q_SIGNALS:
@@ -82,6 +75,7 @@ private:
 
     void update();
     void followClock();
+    void setHasSession(bool hasSession);
     void updateAccessibleText();
 
     RunLoop &runLoop_;
