@@ -330,13 +330,13 @@ def visit(album, build, look, scale, kind=PrivateDesktop):
             tour.second_monitor()
             tour.dashboard()
             tour.brightness(backlight)
-            tour.assistant(assistant)
             if (look, scale) in (("dark", 1), ("light", 2)):
                 tour.headset()
                 tour.activity()
                 tour.media()
                 tour.drags()
                 tour.film()
+            tour.assistant(assistant)
         if faults := island.faults():
             raise SystemExit("\n".join(faults))
 
