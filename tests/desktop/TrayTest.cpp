@@ -151,7 +151,8 @@ TEST_F(TrayTest, RegistersWithEveryWatcherThatComes)
     ASSERT_TRUE(eventually([&refused] { return refused; }));
     slow.beginToAnswer();
     ASSERT_TRUE(eventually([&slow] { return !slow.items.isEmpty(); }));
-    EXPECT_TRUE(host_.interface()->isServiceRegistered(service_)); // and the watch for its end is set
+    EXPECT_TRUE(
+        host_.interface()->isServiceRegistered(service_)); // and the watch for its end is set
 
     item_.remove();
     EXPECT_TRUE(eventually([&slow] { return slow.items.isEmpty(); }));
