@@ -52,10 +52,10 @@ class Island:
             print(self.output())
 
     def start(self):
-        self.started = time.monotonic()
         env = self.desktop.env | self.desktop.hardware_env
         self.process = self.desktop.spawn([*self.desktop.prefix, str(self.program)], self._stderr, env=env)
         wait_until(self._is_up, timeout=20, what="the island on the bus")
+        self.started = time.monotonic()
         return self
 
     def _is_up(self):
@@ -64,7 +64,7 @@ class Island:
         return self.ctl("get", "Presentation", check=False).strip()
 
     def wait_out_mute(self):
-        time.sleep(max(0.0, self.started + LAUNCH_MUTE + 0.2 - time.monotonic()))
+        time.sleep(max(0.0, self.started + LAUNCH_MUTE - time.monotonic()))
 
     # -- what it says ---------------------------------------------------------------------------
 

@@ -32,7 +32,8 @@ class WaylandTest(unittest.TestCase):
     def check_output(self):
         self.assertEqual(self.island.faults(), [])
         self.assertNotRegex(self.island.output(), r"rror|ailed|\[Wayland")
-        self.assertEqual(self.island.stop(), 0)
+        status = self.island.stop()
+        self.assertEqual(status, 0, self.island.output())
 
     def reaches(self, width, y=16):
         """Waits for an island of this width on the first monitor as it is by then."""
