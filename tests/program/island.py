@@ -53,6 +53,7 @@ class Island:
 
     def start(self):
         env = self.desktop.env | self.desktop.hardware_env
+        self.spawned = time.monotonic()
         self.process = self.desktop.spawn([*self.desktop.prefix, str(self.program)], self._stderr, env=env)
         wait_until(self._is_up, timeout=20, what="the island on the bus")
         self.started = time.monotonic()
