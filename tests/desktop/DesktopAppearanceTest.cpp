@@ -171,10 +171,10 @@ TEST_F(DesktopAppearanceTest, ReadsWhatDesktopsTell)
                             {{each.settings, {{QLatin1StringView(each.key), each.value}}}});
         DesktopAppearance appearance(loop, bus, {});
         roundTrip(bus);
-        EXPECT_EQ((AppearanceValues{appearance.reducesMotion(), appearance.highContrast(),
-                                    appearance.accentColor()}),
-                  each.expected)
-            << each.what;
+        EXPECT_TRUE(eventually([&] {
+            return AppearanceValues{appearance.reducesMotion(), appearance.highContrast(),
+                                    appearance.accentColor()} == each.expected;
+        })) << each.what;
     }
 }
 

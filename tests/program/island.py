@@ -237,7 +237,8 @@ class Watcher:
 
     def _read(self):
         for line in self._process.stdout:
-            self._ready.set()
+            if " is owned by " in line:  # before that it cannot tell whose signals are meant
+                self._ready.set()
             if "PropertiesChanged" in line and "com.quillmere.Island" in line:
                 self._changes.append((time.monotonic(), line.strip()))
 
