@@ -60,6 +60,8 @@ public:
             bus_.emplace(); // the session manager does not work without one
         for (const char *name : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})
             qputenv(name, bus_->address().toUtf8());
+        // That of one that was killed would look like the new one's.
+        QFile::remove(directory_.filePath(QStringLiteral("pipewire-0")));
         launch(pipeWire_, QStringLiteral("pipewire"), {});
         waitFor(
             [this] { return QFile::exists(directory_.filePath(QStringLiteral("pipewire-0"))); });
