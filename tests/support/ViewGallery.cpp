@@ -186,7 +186,7 @@ std::vector<Scene> scenes()
             stage.hud.showBrightness(78, hudSeconds);
         };
     };
-    const auto dashboard = [](bool activities, std::function<void(Stage &)> then = {}) {
+    const auto dashboard = [](bool activities, const std::function<void(Stage &)> &then = {}) {
         return [=](Stage &stage) {
             stage.fixture.settings.showFileTray.set(true);
             if (activities) {
@@ -219,7 +219,7 @@ std::vector<Scene> scenes()
             play(stage, track);
         };
     };
-    const auto assistant = [](const Report &report, std::function<void(Stage &)> then = {}) {
+    const auto assistant = [](const Report &report, const std::function<void(Stage &)> &then = {}) {
         return [=](Stage &stage) {
             assist(stage, report);
             if (then)

@@ -86,7 +86,7 @@ TEST(AppcastTest, RefusesHostileFeeds)
         {"{\"version\": 9}", ""},
         {"<html><body/></html>", "not an RSS feed"},
         {feed(item("9")).chopped(8), ""},
-        {feed(item("9") + QByteArray(1024 * 1024, ' ')), "too large"},
+        {feed(item("9") + QByteArray(qsizetype{1024} * 1024, ' ')), "too large"},
         {feed(QByteArray("<a>").repeated(40) + QByteArray("</a>").repeated(40)), "too deeply"},
         {feed(item("9").repeated(1001)), "too many"},
         {"<!DOCTYPE rss [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;'>]><rss>&b;</rss>", "document type"},
