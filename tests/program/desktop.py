@@ -318,7 +318,8 @@ class PipeWireDesktop(PrivateDesktop):
 
     def start_sound_server(self):
         self.spawn(["pipewire"], "pipewire.log")
-        wait_until((self.dir / "run" / "pipewire-0").exists, what="PipeWire")
+        # Its socket is there before it listens, and who comes in between gives up for good.
+        wait_until(lambda: self.run("pw-cli", "info", "0", check=False), what="PipeWire")
         self.spawn(["wireplumber"], "wireplumber.log")
         self.spawn(["pipewire-pulse"], "pipewire-pulse.log")
         wait_until(lambda: "PipeWire" in self.run("pactl", "info", check=False), what="the sound server")

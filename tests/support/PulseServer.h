@@ -60,11 +60,12 @@ public:
             bus_.emplace(); // the session manager does not work without one
         for (const char *name : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})
             qputenv(name, bus_->address().toUtf8());
-        // That of one that was killed would look like the new one's.
-        QFile::remove(directory_.filePath(QStringLiteral("pipewire-0")));
         launch(pipeWire_, QStringLiteral("pipewire"), {});
-        waitFor(
-            [this] { return QFile::exists(directory_.filePath(QStringLiteral("pipewire-0"))); });
+        // Its socket is there before it listens, and who comes in between gives up for good.
+        waitFor([] {
+            return run({QStringLiteral("info"), QStringLiteral("0")}, QStringLiteral("pw-cli"))
+                       .exitCode == 0;
+        });
         launch(sessionManager_, QStringLiteral("wireplumber"), {});
         launch(process_, QStringLiteral("pipewire-pulse"), {});
         waitFor([] {
@@ -140,10 +141,11 @@ private:
         return {QStringLiteral("module-null-sink"), QStringLiteral("sink_name=") + name};
     }
 
-    static Result run(const QStringList &arguments)
+    static Result run(const QStringList &arguments,
+                      const QString &program = QStringLiteral("pactl"))
     {
         QProcess process;
-        process.start(QStringLiteral("pactl"), arguments);
+        process.start(program, arguments);
         process.waitForFinished();
         const bool isDone = process.exitStatus() == QProcess::NormalExit;
         return {isDone ? process.exitCode() : -1,
