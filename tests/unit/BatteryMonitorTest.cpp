@@ -1,0 +1,143 @@
+#include "monitors/BatteryMonitor.h"
+
+#include "platform/linux/power/SettlingStatus.h"
+#include "support/FakePowerSources.h"
+#include "support/ManualRunLoop.h"
+#include "support/SettingsFixture.h"
+
+#include <gmock/gmock.h>
+
+namespace quillmere {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr BatteryStatus onBattery(int level)
+{
+    return {.level = level};
+}
+constexpr BatteryStatus charging(int level)
+{
+    return {.level = level, .isCharging = true, .isPluggedIn = true};
+}
+
+struct BatteryMonitorTest : testing::Test, SettingsFixture {
+    BatteryMonitorTest()
+    {
+        settings.lowBatteryThreshold.set(20);
+        monitor.onPowerSourceChange = [this](int level, bool isCharging, bool isPluggedIn) {
+            events
+                << QStringLiteral("%1 %2%3").arg(level).arg(int(isPluggedIn)).arg(int(isCharging));
+        };
+        monitor.onLowBattery = [this](int level) { events << QStringLiteral("low %1").arg(level); };
+    }
+
+    /// What is reported when the status changes so.
+    QString after(std::optional<BatteryStatus> status)
+    {
+        power.set(status);
+        EXPECT_THAT(events, IsEmpty()) << "not from within the notification";
+        runLoop.settle();
+        return std::exchange(events, {}).join(QStringLiteral(", "));
+    }
+
+    ManualRunLoop runLoop;
+    FakePowerSources power;
+    QStringList events;
+    BatteryMonitor monitor{runLoop, power, settings};
+};
+
+TEST_F(BatteryMonitorTest, WarnsOncePerDischargeAndAgainAfterTheCharger)
+{
+    const struct {
+        double threshold;
+        BatteryStatus status;
+        const char *reports;
+    } steps[] = {
+        {20, onBattery(21), ""},
+        {20, onBattery(20), "low 20"},
+        {20, onBattery(19), ""},
+        {20, charging(19), "19 11"},
+        {20, {.level = 19, .isPluggedIn = true}, ""}, // held at a limit
+        {20, charging(18), ""},
+        {20, onBattery(18), "18 00"}, // the level is what it was
+        {20, onBattery(17), "low 17"},
+        {20, onBattery(21), ""}, // corrected, without a charger
+        {20, onBattery(20), "low 20"},
+        {30, onBattery(19), ""},
+        {10.9, onBattery(11), ""},
+        {10.9, onBattery(10), "low 10"},
+        {1e300, charging(40), "40 11"},
+        {1e300, onBattery(39), "39 00, low 39"},
+        {-0.5, onBattery(1), ""},
+        {-0.5, onBattery(0), "low 0"},
+    };
+    power.set(onBattery(22));
+    monitor.start();
+    for (const auto &step : steps) {
+        settings.lowBatteryThreshold.set(step.threshold);
+        EXPECT_EQ(after(step.status), QString::fromLatin1(step.reports))
+            << step.status.level << " of " << step.threshold;
+    }
+}
+
+TEST_F(BatteryMonitorTest, WhatItFindsAtFirstIsNoEvent)
+{
+    monitor.start();
+    EXPECT_EQ(after(std::nullopt), QString());
+    EXPECT_EQ(after(charging(50)), QString()) << "a battery put in";
+    monitor.stop();
+    for (const auto &first : {onBattery(5), charging(5)}) {
+        power.set(first);
+        monitor.start();
+        monitor.start();
+        EXPECT_EQ(after(first), QString());
+        monitor.stop();
+        EXPECT_EQ(after(onBattery(1)), QString());
+        EXPECT_FALSE(power.isWatched());
+    }
+}
+
+TEST_F(BatteryMonitorTest, StoppingDropsWhatIsStillPosted)
+{
+    power.set(onBattery(21));
+    monitor.start();
+    power.set(charging(20));
+    monitor.stop();
+    runLoop.settle();
+    EXPECT_THAT(events, IsEmpty());
+    EXPECT_FALSE(monitor.isRunning());
+}
+
+TEST(SettlingStatusTest, APlugIsBelievedOnceItRests)
+{
+    ManualRunLoop runLoop;
+    std::vector<BatteryStatus> seen;
+    SettlingStatus *self = nullptr;
+    SettlingStatus status(runLoop, [&] { seen.push_back(self->settled().value()); });
+    self = &status;
+    status.begin(onBattery(50));
+    status.set(onBattery(51)); // a level needs no rest
+    status.set({{.level = 51, .isPluggedIn = true}});
+    runLoop.advance(200ms);
+    status.set(charging(52));
+    runLoop.advance(99ms);
+    EXPECT_THAT(seen, ElementsAre(onBattery(51)));
+    runLoop.advance(1ms);
+    EXPECT_THAT(std::exchange(seen, {}), ElementsAre(onBattery(51), charging(52)));
+
+    status.set(onBattery(52)); // a bad contact
+    runLoop.advance(100ms);
+    status.set(charging(52));
+    runLoop.advance(1s);
+    EXPECT_THAT(seen, IsEmpty());
+    status.set(onBattery(52));
+    status.begin(charging(53)); // another run of the service
+    runLoop.advance(1s);
+    EXPECT_THAT(seen, IsEmpty());
+}
+
+} // namespace
+} // namespace quillmere
