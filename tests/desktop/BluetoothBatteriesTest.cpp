@@ -1,87 +1,20 @@
 #include "platform/linux/bluetooth/BusBluetoothBatteries.h"
 
 #include "platform/linux/core/QtRunLoop.h"
-#include "support/BusServer.h"
-#include "support/Eventually.h"
+#include "support/MockService.h"
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 
-#include <sys/prctl.h>
-
 namespace quillmere {
 namespace {
 
-using namespace std::chrono_literals;
-
 const QString address = QStringLiteral("AA:BB:CC:DD:EE:FF");
-const QString mock = QStringLiteral("org.freedesktop.DBus.Mock");
 
-/// A service of the system bus, with the objects and signals of the real one.
-class MockService
-{
-public:
-    MockService(const BusServer &bus, QString name, QString path)
-        : connection_(bus.connect())
-        , name_(std::move(name))
-        , path_(std::move(path))
-    {
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), bus.address());
-        process_.setProcessEnvironment(environment);
-        process_.setStandardErrorFile(QProcess::nullDevice());
-        process_.setStandardOutputFile(QProcess::nullDevice());
-        process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
-    }
-    ~MockService() { stop(); }
-
-    void start(const QString &templateName)
-    {
-        process_.start(QStringLiteral("/usr/bin/python3"),
-                       {QStringLiteral("-m"), QStringLiteral("dbusmock"),
-                        QStringLiteral("--system"), QStringLiteral("--template"), templateName});
-        const auto ping = [this] {
-            return call(path_, QStringLiteral("org.freedesktop.DBus.Peer"), "Ping", {}).type() ==
-                   QDBusMessage::ReplyMessage;
-        };
-        if (!eventually(ping))
-            throw std::runtime_error("no mock of " + name_.toStdString());
-    }
-    void stop()
-    {
-        process_.kill();
-        process_.waitForFinished();
-    }
-
-    QDBusMessage call(const QString &path, const QString &interface, const char *method,
-                      const QVariantList &arguments)
-    {
-        auto message =
-            QDBusMessage::createMethodCall(name_, path, interface, QString::fromLatin1(method));
-        message.setArguments(arguments);
-        return connection_.call(message);
-    }
-
-private:
-    QDBusConnection connection_;
-    QString name_;
-    QString path_;
-    QProcess process_;
-};
-
-struct BluetoothBatteriesTest : testing::Test {
-    static void SetUpTestSuite()
-    {
-        static int argc = 1;
-        static char name[] = "BluetoothBatteriesTest";
-        static char *argv[] = {name, nullptr};
-        static QCoreApplication application(argc, argv);
-    }
-
+struct BluetoothBatteriesTest : ServiceTest {
     void startBlueZ(int percent)
     {
         const QString path = QStringLiteral("/org/bluez");
@@ -118,6 +51,10 @@ struct BluetoothBatteriesTest : testing::Test {
                                                    QVariant::fromValue(uchar(percent))}}});
     }
 
+    bool waitFor(const BluetoothBattery &only)
+    {
+        return waitUntil([&] { return batteries.batteries() == QList{only}; });
+    }
     bool waitFor(std::optional<int> percent)
     {
         return eventually([&] { return batteries.percent(address) == percent; });
@@ -125,7 +62,6 @@ struct BluetoothBatteriesTest : testing::Test {
 
     const QString batteryInterface = QStringLiteral("org.bluez.Battery1");
     const QString device = QStringLiteral("/org/bluez/hci0/dev_AA_BB_CC_DD_EE_FF");
-    BusServer bus;
     MockService blueZ{bus, QStringLiteral("org.bluez"), QStringLiteral("/")};
     MockService uPower{bus, QStringLiteral("org.freedesktop.UPower"),
                        QStringLiteral("/org/freedesktop/UPower")};
@@ -146,6 +82,7 @@ TEST_F(BluetoothBatteriesTest, FollowBlueZThroughItsLifeAndOnlyWhileSomebodyList
     startBlueZ(83);
     EXPECT_TRUE(waitFor(83));
     EXPECT_EQ(batteries.percent(QStringLiteral("AA:BB:CC:DD:EE:00")), std::nullopt);
+    EXPECT_TRUE(waitFor({address, QStringLiteral("AirPods Pro"), 83}));
     change(42);
     EXPECT_TRUE(waitFor(42));
     change(242); // nonsense changes nothing
@@ -196,7 +133,7 @@ TEST_F(BluetoothBatteriesTest, UPowerFillsInForWhatBlueZDoesNotTell)
     uPower.call(battery, mock, "AddProperties",
                 {deviceInterface, QVariantMap{{QStringLiteral("Serial"), address.toLower()}}});
     Task task = batteries.onChanged([this] { ++changes; });
-    EXPECT_TRUE(waitFor(61));
+    EXPECT_TRUE(waitFor({address, QStringLiteral("Pad"), 61}));
     update(QStringLiteral("Percentage"), 59.6);
     EXPECT_TRUE(waitFor(60));
 

@@ -16,6 +16,13 @@ public:
         const auto found = levels_.constFind(address);
         return found == levels_.cend() ? std::nullopt : std::optional(*found);
     }
+    QList<BluetoothBattery> batteries() const override
+    {
+        QList<BluetoothBattery> all;
+        for (auto level = levels_.begin(); level != levels_.end(); ++level)
+            all.append({.address = level.key(), .name = QStringLiteral("Pad"), .percent = *level});
+        return all;
+    }
     Task onChanged(std::function<void()> listener) override
     {
         return listeners_.add(std::move(listener));

@@ -1,6 +1,8 @@
 #include "monitors/BatteryMonitor.h"
 
+#include "monitors/BluetoothBatteryMonitor.h"
 #include "platform/linux/power/SettlingStatus.h"
+#include "support/FakeBluetoothBatteries.h"
 #include "support/FakePowerSources.h"
 #include "support/ManualRunLoop.h"
 #include "support/SettingsFixture.h"
@@ -109,6 +111,38 @@ TEST_F(BatteryMonitorTest, StoppingDropsWhatIsStillPosted)
     runLoop.settle();
     EXPECT_THAT(events, IsEmpty());
     EXPECT_FALSE(monitor.isRunning());
+}
+
+TEST_F(BatteryMonitorTest, BluetoothDevicesWarnByTheSameRuleEachForItself)
+{
+    const struct {
+        const char *address;
+        int percent;
+        const char *report;
+    } steps[] = {
+        {"A", 30, ""},       {"A", 20, "Pad 20"}, {"B", 15, ""}, {"A", 10, ""},
+        {"B", 14, "Pad 14"}, {"B", 13, ""},       {"A", 80, ""}, {"A", 5, "Pad 5"},
+    };
+    FakeBluetoothBatteries batteries;
+    BluetoothBatteryMonitor bluetooth(runLoop, batteries, settings);
+    bluetooth.onLowBattery = [this](const QString &name, int level) {
+        events << QStringLiteral("%1 %2").arg(name).arg(level);
+    };
+    batteries.set(QStringLiteral("C"), 1); // there before
+    bluetooth.start();
+    for (const auto &step : steps) {
+        batteries.set(QString::fromLatin1(step.address), step.percent);
+        runLoop.settle();
+        EXPECT_EQ(std::exchange(events, {}).join(u','), QString::fromLatin1(step.report))
+            << step.address << step.percent;
+    }
+    settings.lowBluetoothBatteryThreshold.set(0);
+    batteries.set(QStringLiteral("A"), 90);
+    batteries.set(QStringLiteral("A"), 0);
+    bluetooth.stop();
+    runLoop.settle();
+    EXPECT_THAT(events, IsEmpty());
+    EXPECT_FALSE(batteries.isWatched());
 }
 
 TEST(SettlingStatusTest, APlugIsBelievedOnceItRests)

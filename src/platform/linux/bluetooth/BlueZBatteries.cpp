@@ -5,6 +5,7 @@
 
 #include <QDBusArgument>
 #include <QDBusObjectPath>
+#include <QDBusVariant>
 
 #include <utility>
 
@@ -25,37 +26,40 @@ constexpr QLatin1StringView batteryInterface{"org.bluez.Battery1"};
 BlueZBatteries::BlueZBatteries(const QDBusConnection &bus, const QString &owner,
                                std::function<void()> onChanged)
     : onChanged_(std::move(onChanged))
+    , owner_(owner)
     , calls_(bus)
 {
-    subscribe(owner);
-    readAll(owner);
+    subscribe();
+    readAll();
 }
 
-std::optional<int> BlueZBatteries::percent(const QString &address) const
+QList<BluetoothBattery> BlueZBatteries::batteries() const
 {
-    const auto found = percents_.find(address);
-    return found == percents_.end() ? std::nullopt : std::optional(found->second);
+    QList<BluetoothBattery> all;
+    for (const auto &entry : batteries_)
+        all.append(entry.second);
+    return all;
 }
 
-void BlueZBatteries::subscribe(const QString &owner)
+void BlueZBatteries::subscribe()
 {
     // By unique name, so that nobody else is believed and the library asks the bus nothing; and of
     // the properties only the battery's, for a search for devices changes others all the time.
     QDBusConnection bus = calls_.connection();
     const QString root = QStringLiteral("/");
-    bus.connect(owner, root, managerInterface, QStringLiteral("InterfacesAdded"), this,
+    bus.connect(owner_, root, managerInterface, QStringLiteral("InterfacesAdded"), this,
                 SLOT(interfacesAdded(QDBusMessage)));
-    bus.connect(owner, root, managerInterface, QStringLiteral("InterfacesRemoved"), this,
+    bus.connect(owner_, root, managerInterface, QStringLiteral("InterfacesRemoved"), this,
                 SLOT(interfacesRemoved(QDBusMessage)));
-    bus.connect(owner, {}, bus::propertiesInterface, QStringLiteral("PropertiesChanged"),
+    bus.connect(owner_, {}, bus::propertiesInterface, QStringLiteral("PropertiesChanged"),
                 QStringList(QString(batteryInterface)), {}, this,
                 SLOT(propertiesChanged(QDBusMessage)));
 }
 
-void BlueZBatteries::readAll(const QString &owner)
+void BlueZBatteries::readAll()
 {
     const auto question = QDBusMessage::createMethodCall(
-        owner, QStringLiteral("/"), managerInterface, QStringLiteral("GetManagedObjects"));
+        owner_, QStringLiteral("/"), managerInterface, QStringLiteral("GetManagedObjects"));
     calls_.call(question, answerLimit, [this](const BusReply &reply) {
         if (!reply) {
             qWarning("[Bluetooth] BlueZ does not tell its devices: %s",
@@ -80,9 +84,24 @@ void BlueZBatteries::take(const QString &path, const QVariantMap &battery)
         qWarning("[Bluetooth] A battery of %d percent is ignored", percent);
         return;
     }
-    const auto [entry, isNew] = percents_.try_emplace(address, percent);
-    if (std::exchange(entry->second, percent) != percent || isNew)
+    const auto [entry, isNew] =
+        batteries_.try_emplace(address, BluetoothBattery{.address = address});
+    if (isNew)
+        readName(path, address);
+    if (std::exchange(entry->second.percent, percent) != percent || isNew)
         onChanged_();
+}
+
+void BlueZBatteries::readName(const QString &path, const QString &address)
+{
+    auto question = QDBusMessage::createMethodCall(owner_, path, bus::propertiesInterface,
+                                                   QStringLiteral("Get"));
+    question << QStringLiteral("org.bluez.Device1") << QStringLiteral("Alias");
+    calls_.call(question, answerLimit, [this, address](const BusReply &reply) {
+        const auto found = batteries_.find(address);
+        if (reply && found != batteries_.end()) // else the device is gone again
+            found->second.name = reply->value(0).value<QDBusVariant>().variant().toString();
+    });
 }
 
 void BlueZBatteries::interfacesAdded(const QDBusMessage &message)
@@ -97,7 +116,7 @@ void BlueZBatteries::interfacesRemoved(const QDBusMessage &message)
 {
     const auto path = message.arguments().value(0).value<QDBusObjectPath>().path();
     if (message.arguments().value(1).toStringList().contains(batteryInterface) &&
-        percents_.erase(bluetoothAddressIn(path)) > 0)
+        batteries_.erase(bluetoothAddressIn(path)) > 0)
         onChanged_();
 }
 

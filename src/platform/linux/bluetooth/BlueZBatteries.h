@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/BluetoothBatteries.h"
 #include "platform/linux/dbus/BusCalls.h"
 
 #include <QObject>
@@ -21,11 +22,12 @@ public:
     BlueZBatteries(const QDBusConnection &bus, const QString &owner,
                    std::function<void()> onChanged);
 
-    std::optional<int> percent(const QString &address) const;
+    QList<BluetoothBattery> batteries() const;
 
 private:
-    void subscribe(const QString &owner);
-    void readAll(const QString &owner);
+    void subscribe();
+    void readAll();
+    void readName(const QString &path, const QString &address);
     void take(const QString &path, const QVariantMap &battery);
 
     Q_SLOT void interfacesAdded(const QDBusMessage &message);
@@ -33,7 +35,8 @@ private:
     Q_SLOT void propertiesChanged(const QDBusMessage &message);
 
     std::function<void()> onChanged_;
-    std::map<QString, int> percents_;
+    const QString owner_;
+    std::map<QString, BluetoothBattery> batteries_; // by address
     BusCalls calls_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QDebug>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -41,10 +42,23 @@ BusBluetoothBatteries::BusBluetoothBatteries(RunLoop &runLoop, OpenBus openBus)
 
 std::optional<int> BusBluetoothBatteries::percent(const QString &address) const
 {
-    if (!watch_)
-        return std::nullopt;
-    const auto known = watch_->blueZ ? watch_->blueZ->percent(address) : std::nullopt;
-    return known || !watch_->uPower ? known : watch_->uPower->percent(address);
+    const auto all = batteries();
+    const auto found = std::ranges::find(all, address, &BluetoothBattery::address);
+    return found == all.end() ? std::nullopt : std::optional(found->percent);
+}
+
+QList<BluetoothBattery> BusBluetoothBatteries::batteries() const
+{
+    QList<BluetoothBattery> all;
+    if (watch_ && watch_->blueZ)
+        all = watch_->blueZ->batteries();
+    if (!watch_ || !watch_->uPower)
+        return all;
+    for (const BluetoothBattery &battery : watch_->uPower->batteries()) {
+        if (std::ranges::find(all, battery.address, &BluetoothBattery::address) == all.end())
+            all.append(battery);
+    }
+    return all;
 }
 
 Task BusBluetoothBatteries::onChanged(std::function<void()> listener)

@@ -26,6 +26,7 @@ public:
     explicit BusBluetoothBatteries(RunLoop &runLoop, OpenBus openBus = &QDBusConnection::systemBus);
 
     std::optional<int> percent(const QString &address) const override;
+    QList<BluetoothBattery> batteries() const override;
     Task onChanged(std::function<void()> listener) override;
 
 private:

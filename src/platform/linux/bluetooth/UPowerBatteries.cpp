@@ -6,7 +6,6 @@
 #include <QDBusArgument>
 #include <QDBusObjectPath>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -49,11 +48,12 @@ UPowerBatteries::UPowerBatteries(const QDBusConnection &bus, const QString &owne
     readAll();
 }
 
-std::optional<int> UPowerBatteries::percent(const QString &address) const
+QList<BluetoothBattery> UPowerBatteries::batteries() const
 {
-    const auto found = std::ranges::find(batteries_, address,
-                                         [](const auto &entry) { return entry.second.address; });
-    return found == batteries_.end() ? std::nullopt : std::optional(found->second.percent);
+    QList<BluetoothBattery> all;
+    for (const auto &entry : batteries_)
+        all.append(entry.second);
+    return all;
 }
 
 void UPowerBatteries::subscribe()
@@ -102,9 +102,11 @@ void UPowerBatteries::take(const QString &path, const QVariantMap &properties)
     const bool isPresent = properties.value(QStringLiteral("IsPresent")).toBool();
     if (address.isEmpty() || !isPresent || !(percentage >= 0 && percentage <= 100))
         return forget(path);
-    const Battery battery{address, static_cast<int>(std::lround(percentage))};
+    const BluetoothBattery battery{.address = address,
+                                   .name = properties.value(QStringLiteral("Model")).toString(),
+                                   .percent = static_cast<int>(std::lround(percentage))};
     const auto [entry, isNew] = batteries_.try_emplace(path, battery);
-    if (std::exchange(entry->second, battery).percent != battery.percent || isNew)
+    if (std::exchange(entry->second, battery) != battery || isNew)
         onChanged_();
 }
 

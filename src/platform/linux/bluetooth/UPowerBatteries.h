@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/BluetoothBatteries.h"
 #include "platform/linux/dbus/BusCalls.h"
 
 #include <QObject>
@@ -22,14 +23,9 @@ public:
     UPowerBatteries(const QDBusConnection &bus, const QString &owner,
                     std::function<void()> onChanged);
 
-    std::optional<int> percent(const QString &address) const;
+    QList<BluetoothBattery> batteries() const;
 
 private:
-    struct Battery {
-        QString address;
-        int percent;
-    };
-
     void subscribe();
     void readAll();
     void read(const QString &path);
@@ -42,7 +38,7 @@ private:
 
     std::function<void()> onChanged_;
     const QString owner_;
-    std::map<QString, Battery> batteries_; // by object path
+    std::map<QString, BluetoothBattery> batteries_; // by object path
     BusCalls calls_;
 };
 
