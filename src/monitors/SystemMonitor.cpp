@@ -70,6 +70,11 @@ SystemStats sampleStats(const HostStatistics &host, ProcessorLoad &load)
     return stats;
 }
 
+SystemMonitor::Run::Run()
+    : load(std::make_shared<ProcessorLoad>())
+{
+}
+
 SystemMonitor::SystemMonitor(RunLoop &runLoop, const HostStatistics &host)
     : runLoop_(runLoop)
     , host_(host)

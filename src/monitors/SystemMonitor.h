@@ -49,8 +49,10 @@ public:
 private:
     /// What start() sets up; ending it releases the timer and drops a sample under way.
     struct Run {
+        Run();
+
         Task timer;
-        std::shared_ptr<ProcessorLoad> load = std::make_shared<ProcessorLoad>();
+        std::shared_ptr<ProcessorLoad> load;
         bool isSampling = false;
         Owner owner;
     };

@@ -18,7 +18,12 @@ inline constexpr QLatin1StringView hifispeaker{"hifispeaker.fill"};
 inline constexpr QLatin1StringView car{"car.fill"};
 inline constexpr QLatin1StringView tv{"tv.fill"};
 inline constexpr QLatin1StringView sunMax{"sun.max.fill"};
+inline constexpr QLatin1StringView battery0{"battery.0"};
 inline constexpr QLatin1StringView battery25{"battery.25"};
+inline constexpr QLatin1StringView battery50{"battery.50"};
+inline constexpr QLatin1StringView battery75{"battery.75"};
+inline constexpr QLatin1StringView battery100{"battery.100"};
+inline constexpr QLatin1StringView battery100Bolt{"battery.100.bolt"};
 inline constexpr QLatin1StringView trayAndArrowDown{"tray.and.arrow.down.fill"};
 inline constexpr QLatin1StringView island{"rectangle.topthird.inset.filled"};
 
@@ -42,10 +47,11 @@ inline constexpr QLatin1StringView playCircle{"play.circle.fill"};
 inline constexpr QLatin1StringView arrowDownCircle{"arrow.down.circle.fill"};
 
 inline constexpr std::array all{
-    arrowDownCircle, chevronLeft,  chevronRight, xmark,        checkmark,   doc,
-    speakerSlash,    speakerWave1, speakerWave2, speakerWave3, airpods,     headphones,
-    hifispeaker,     car,          tv,           sunMax,       battery25,   trayAndArrowDown,
-    island,          playFill,     pauseFill,    backwardFill, forwardFill, shuffle,
-    repeat,          heart,        docOnDoc,     musicNote,    playCircle};
+    arrowDownCircle, chevronLeft,  chevronRight, xmark,          checkmark,        doc,
+    speakerSlash,    speakerWave1, speakerWave2, speakerWave3,   airpods,          headphones,
+    hifispeaker,     car,          tv,           sunMax,         battery0,         battery25,
+    battery50,       battery75,    battery100,   battery100Bolt, trayAndArrowDown, island,
+    playFill,        pauseFill,    backwardFill, forwardFill,    shuffle,          repeat,
+    heart,           docOnDoc,     musicNote,    playCircle};
 
 } // namespace quillmere::symbols

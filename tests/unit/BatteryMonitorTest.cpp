@@ -1,5 +1,6 @@
 #include "monitors/BatteryMonitor.h"
 
+#include "monitors/BatterySymbol.h"
 #include "monitors/BluetoothBatteryMonitor.h"
 #include "platform/linux/power/SettlingStatus.h"
 #include "support/FakeBluetoothBatteries.h"
@@ -143,6 +144,21 @@ TEST_F(BatteryMonitorTest, BluetoothDevicesWarnByTheSameRuleEachForItself)
     runLoop.settle();
     EXPECT_THAT(events, IsEmpty());
     EXPECT_FALSE(batteries.isWatched());
+}
+
+TEST(BatterySymbolTest, IsTheNearestQuarter)
+{
+    const struct {
+        int level;
+        bool isPluggedIn;
+        const char *symbol;
+    } cases[] = {{-1, false, "battery.0"},    {12, false, "battery.0"},
+                 {13, false, "battery.25"},   {50, false, "battery.50"},
+                 {87, false, "battery.75"},   {88, false, "battery.100"},
+                 {100, false, "battery.100"}, {0, true, "battery.100.bolt"}};
+    for (const auto &each : cases)
+        EXPECT_EQ(batterySymbol(each.level, each.isPluggedIn), QLatin1StringView(each.symbol))
+            << each.level;
 }
 
 TEST(SettlingStatusTest, APlugIsBelievedOnceItRests)

@@ -12,7 +12,7 @@ namespace quillmere {
 
 namespace {
 
-constexpr qint64 longestFile = 64 * 1024; // what is asked for stands in the first lines
+constexpr qint64 longestFile = 65'536; // what is asked for stands in the first lines
 
 QByteArray head(const QString &path)
 {
