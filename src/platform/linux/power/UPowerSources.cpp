@@ -69,8 +69,8 @@ void UPowerSources::follow(const QDBusConnection &bus)
 void UPowerSources::serviceChanged(const QDBusConnection &bus, const QString &owner)
 {
     service_.reset();
-    setAvailable(false);
     status_.begin(std::nullopt);
+    setAvailable(false);
     if (!owner.isEmpty())
         service_ = std::make_unique<Service>(bus, owner, [this] { serviceTold(); });
 }
