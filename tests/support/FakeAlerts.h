@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/Listeners.h"
+#include "platform/LowPowerMode.h"
+#include "platform/SystemSound.h"
+#include "platform/UserNotifications.h"
+
+#include <vector>
+
+namespace quillmere {
+
+/// Remembers what was shown.
+struct FakeUserNotifications : UserNotifications {
+    void deliver(const UserNotification &notification) override { shown.push_back(notification); }
+    std::vector<UserNotification> shown;
+};
+
+/// Remembers what was played.
+struct FakeSystemSound : SystemSound {
+    void play(Sound sound) override { played.push_back(sound); }
+    std::vector<Sound> played;
+};
+
+/// A mode that the test switches.
+struct FakeLowPowerMode : LowPowerMode {
+    std::optional<bool> isOn() const override { return mode; }
+    Task onChanged(std::function<void(bool)> listener) override
+    {
+        return listeners.add(std::move(listener));
+    }
+    void set(bool isOn)
+    {
+        mode = isOn;
+        listeners.notify(isOn);
+    }
+    std::optional<bool> mode;
+    Listeners<bool> listeners;
+};
+
+} // namespace quillmere
