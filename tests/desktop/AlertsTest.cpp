@@ -53,7 +53,7 @@ TEST_F(AlertsTest, NotificationsReachTheServerAsPlainTextAndReplaceTheirLike)
     };
     LogCapture log;
     deliver(QStringLiteral("early"));
-    ASSERT_TRUE(waitUntil([&] { return log.take().size() == 1; }));
+    ASSERT_TRUE(eventually([&] { return log.take().size() == 1; }));
     for (const auto &[capabilities, body] : servers) {
         startServer(QString::fromLatin1(capabilities));
         QStringList expected;
@@ -63,7 +63,7 @@ TEST_F(AlertsTest, NotificationsReachTheServerAsPlainTextAndReplaceTheirLike)
             expected << words.at(1) + QStringLiteral(" | battery-caution | Low <Battery> | ") +
                             QString::fromLatin1(body) +
                             QStringLiteral(" | desktop-entry suppress-sound urgency");
-            ASSERT_TRUE(waitUntil([&] { return got().size() == expected.size(); }));
+            ASSERT_TRUE(eventually([&] { return got().size() == expected.size(); }));
         }
         EXPECT_EQ(got(), expected);
         server.stop();
@@ -78,7 +78,7 @@ TEST(SoundTest, PlaysTheThemesSoundAlsoAfterTheServerRestarted)
     CanberraSound sounds(runLoop);
     for (int run = 0; run < 2; ++run) {
         server.start({QStringLiteral("quiet")});
-        EXPECT_TRUE(waitUntil([&] {
+        EXPECT_TRUE(eventually([&] {
             sounds.play(Sound::Glass);
             return server.pactl(QStringLiteral("list sink-inputs"))
                 .contains(QStringLiteral("event.id = \"alarm-clock-elapsed\""));

@@ -53,7 +53,7 @@ struct BluetoothBatteriesTest : ServiceTest {
 
     bool waitFor(const BluetoothBattery &only)
     {
-        return waitUntil([&] { return batteries.batteries() == QList{only}; });
+        return eventually([&] { return batteries.batteries() == QList{only}; });
     }
     bool waitFor(std::optional<int> percent)
     {

@@ -29,7 +29,7 @@ struct PowerTest : ServiceTest {
     }
     bool waitFor(std::optional<BatteryStatus> status)
     {
-        return waitUntil([&] { return power->isAvailable() && power->status() == status; });
+        return eventually([&] { return power->isAvailable() && power->status() == status; });
     }
 
     const QString daemon = QStringLiteral("org.freedesktop.UPower");
@@ -77,7 +77,7 @@ TEST_F(PowerTest, FollowsUPowerThroughItsLife)
     EXPECT_TRUE(waitFor(std::nullopt));
     heard.clear();
     uPower.stop();
-    EXPECT_TRUE(waitUntil([&] { return !power->isAvailable(); }));
+    EXPECT_TRUE(eventually([&] { return !power->isAvailable(); }));
     startUPower(3, 2, 50); // of a UPS
     EXPECT_TRUE(waitFor(std::nullopt));
     EXPECT_EQ(heard.count(QStringLiteral("on")), 1);
@@ -95,7 +95,7 @@ TEST_F(PowerTest, PowerProfilesAreFollowedUnderTheirOldName)
     const auto choose = [&](const QVariant &profile) {
         service.update(path, name, {{QStringLiteral("ActiveProfile"), profile}});
     };
-    const auto waitFor = [&](bool isOn) { return waitUntil([&] { return mode.isOn() == isOn; }); };
+    const auto waitFor = [&](bool isOn) { return eventually([&] { return mode.isOn() == isOn; }); };
 
     service.start(QStringLiteral("power_profiles_daemon"));
     EXPECT_TRUE(waitFor(false));

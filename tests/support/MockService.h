@@ -1,32 +1,17 @@
 #pragma once
 
 #include "support/BusServer.h"
+#include "support/Eventually.h"
 
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QTimer>
 
 #include <sys/prctl.h>
 
 namespace quillmere {
 
 inline const QString mock = QStringLiteral("org.freedesktop.DBus.Mock");
-
-template <class Predicate>
-bool waitUntil(Predicate isDone)
-{
-    QTimer wake;
-    wake.start(5);
-    const QDeadlineTimer deadline(std::chrono::seconds(20));
-    while (!isDone()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return true;
-}
 
 /// A service with the objects and signals of the real one, made by a template of dbusmock.
 class MockService
@@ -56,7 +41,7 @@ public:
             return call(path_, QStringLiteral("org.freedesktop.DBus.Peer"), "Ping", {}).type() ==
                    QDBusMessage::ReplyMessage;
         };
-        if (!waitUntil(ping))
+        if (!eventually(ping))
             throw std::runtime_error("no mock of " + name_.toStdString());
     }
     /// Changes properties, and tells of it as the real one does.
