@@ -11,8 +11,9 @@ set(layer_island     log settings platform events)
 set(layer_monitors   log settings platform events)
 set(layer_nowplaying island log settings platform events)
 set(layer_claude     log platform)
-set(layer_app        nowplaying island monitors claude log settings platform events)
-set(layer_views      app island claude log settings platform events)
+set(layer_weather    island log settings platform events)
+set(layer_app        nowplaying weather island monitors claude log settings platform events)
+set(layer_views      app weather island claude log settings platform events)
 set(layer_linux      platform events)
 
 # What a layer of logic may take from outside: no bus, no widgets, no scene graph.

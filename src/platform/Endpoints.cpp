@@ -22,6 +22,12 @@ constexpr std::array rows{
         QLatin1StringView{"https://itunes.apple.com"}},
     Row{EndpointName::VideoThumbnail, QLatin1StringView{"QUILLMERE_VIDEO_THUMBNAIL_URL"},
         QLatin1StringView{"https://i.ytimg.com"}},
+    Row{EndpointName::OpenMeteo, QLatin1StringView{"QUILLMERE_OPEN_METEO_URL"},
+        QLatin1StringView{"https://api.open-meteo.com"}},
+    Row{EndpointName::WeatherKit, QLatin1StringView{"QUILLMERE_WEATHERKIT_URL"},
+        QLatin1StringView{"https://weatherkit.apple.com"}},
+    Row{EndpointName::PlaceSearch, QLatin1StringView{"QUILLMERE_PLACE_SEARCH_URL"},
+        QLatin1StringView{"https://geocoding-api.open-meteo.com"}},
 };
 
 constexpr QLatin1StringView loopback{"127.0.0.1"};

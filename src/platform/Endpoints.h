@@ -7,7 +7,14 @@ namespace quillmere {
 
 /// The servers the program talks to. Each address can be replaced by an environment variable
 /// QUILLMERE_<NAME>_URL, for one's own server and for tests; never by a setting, for those sync.
-enum class EndpointName { UpdateFeed, StoreLookup, VideoThumbnail };
+enum class EndpointName {
+    UpdateFeed,
+    StoreLookup,
+    VideoThumbnail,
+    OpenMeteo,
+    WeatherKit,
+    PlaceSearch
+};
 
 struct Endpoint {
     QUrl url;                ///< empty: this build knows none
