@@ -22,7 +22,7 @@ set(outside_claude   ${outside_logic} nlohmann_json::nlohmann_json)
 set(outside_views    Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick Qt6::Svg tl::expected)
 set(outside_linux    Qt6::Core Qt6::Gui Qt6::GuiPrivate Qt6::DBus Qt6::Network tl::expected nlohmann_json::nlohmann_json
                      PkgConfig::PULSE PkgConfig::WAYLAND PkgConfig::XCB PkgConfig::UDEV
-                     PkgConfig::DBUS PkgConfig::LZ4 PkgConfig::CANBERRA)
+                     PkgConfig::DBUS PkgConfig::LZ4 PkgConfig::CANBERRA qt6keychain)
 
 # quillmere_library(<target> LAYER <layer> FOLDER <folder below src> [SOURCES ...] [HEADERS ...] [LINK ...])
 function(quillmere_library target)

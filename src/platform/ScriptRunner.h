@@ -24,6 +24,9 @@ inline constexpr QLatin1StringView frontTab("front-tab");
 inline constexpr QLatin1StringView spotifyArtwork("spotify-artwork");
 /// The address of the current track in Spotify.
 inline constexpr QLatin1StringView spotifyURL("spotify-url");
+/// Arguments: latitude and longitude in degrees. The nearest city, and a line below the place it
+/// was found by; empty if none is near.
+inline constexpr QLatin1StringView placeName("place-name");
 } // namespace scripts
 
 struct ScriptAnswer {

@@ -1,6 +1,7 @@
 #include "weather/OpenMeteo.h"
 
 #include "weather/JsonValues.h"
+#include "weather/ServerAddress.h"
 #include "weather/WeatherCodes.h"
 #include "weather/WeatherUnits.h"
 
@@ -65,8 +66,8 @@ QString coordinateText(double degrees)
 QUrl openMeteoUrl(const QUrl &server, double latitude, double longitude)
 {
     return QUrl(
-        server.toString(QUrl::StripTrailingSlash) + "/v1/forecast?latitude="_L1 +
-        coordinateText(latitude) + "&longitude="_L1 + coordinateText(longitude) +
+        serverAddress(server) + "/v1/forecast?latitude="_L1 + coordinateText(latitude) +
+        "&longitude="_L1 + coordinateText(longitude) +
         "&current=temperature_2m,weather_code,apparent_temperature,relative_humidity_2m,wind_speed_10m,visibility"_L1
         "&daily=temperature_2m_max,temperature_2m_min"
         "&hourly=temperature_2m,weather_code&forecast_hours=8"

@@ -2,6 +2,7 @@
 
 #include "platform/Endpoints.h"
 #include "platform/HttpClient.h"
+#include "weather/ServerAddress.h"
 #include "weather/TypedPlace.h"
 
 #include <QJsonArray>
@@ -34,7 +35,7 @@ QString regionOf(const QJsonObject &place)
 
 QUrl placeSearchUrl(const QUrl &server, const QString &text)
 {
-    QUrl url(server.toString(QUrl::StripTrailingSlash) + "/v1/search"_L1);
+    QUrl url(serverAddress(server) + "/v1/search"_L1);
     url.setQuery("name="_L1 + QString::fromLatin1(QUrl::toPercentEncoding(text)) +
                  "&count=10&language=en&format=json"_L1);
     return url;

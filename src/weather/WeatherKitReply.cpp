@@ -2,6 +2,7 @@
 
 #include "weather/JsonValues.h"
 #include "weather/OpenMeteo.h"
+#include "weather/ServerAddress.h"
 #include "weather/WeatherConditions.h"
 #include "weather/WeatherUnits.h"
 
@@ -60,8 +61,8 @@ QJsonObject todayIn(const QJsonArray &days, const QDateTime &now)
 QUrl weatherKitUrl(const QUrl &server, double latitude, double longitude,
                    const QByteArray &timeZone)
 {
-    return QUrl(server.toString(QUrl::StripTrailingSlash) + "/api/v1/weather/en/"_L1 +
-                coordinateText(latitude) + u'/' + coordinateText(longitude) +
+    return QUrl(serverAddress(server) + "/api/v1/weather/en/"_L1 + coordinateText(latitude) + u'/' +
+                coordinateText(longitude) +
                 "?dataSets=currentWeather,forecastHourly,forecastDaily&timezone="_L1 +
                 QString::fromLatin1(timeZone));
 }

@@ -195,14 +195,13 @@ TEST(WeatherAnswers, PrimaryServiceTellsTheHoursAndTheDayOfThePlace)
                                         QString::number(i)));
     }
     const auto weather = weatherKitWeather(
-        (R"({"currentWeather":{"temperature":17.26,"temperatureApparent":16,"humidity":0.545,
+        R"({"currentWeather":{"temperature":17.26,"temperatureApparent":16,"humidity":0.545,
          "windSpeed":10,"visibility":24140,"conditionCode":"PartlyCloudy","daylight":false},
          "forecastDaily":{"days":[
          {"forecastStart":"2026-10-23T22:00:00Z","temperatureMax":1,"temperatureMin":0},
          {"forecastStart":"2026-10-24T22:00:00Z","temperatureMax":20,"temperatureMin":"x"}]},
          "forecastHourly":{"hours":[)" +
-         forecasts.join(u',') + u"]}}"_s)
-            .toUtf8(),
+            forecasts.join(u',').toUtf8() + "]}}",
         now);
     ASSERT_TRUE(weather);
     EXPECT_THAT(hours(*weather), ElementsAre(0, 1, 2, 2, 3, 4, 5, 6));
@@ -234,7 +233,7 @@ TEST(WeatherAnswers, PlacesAreTheOnesOnEarth)
                                      FoundPlace{{33.66, -95.55, u"Paris"_s, ""}, {}}));
     EXPECT_TRUE(placesIn("{}")->isEmpty()) << "how the server says that there is none";
     EXPECT_FALSE(placesIn("<html>"));
-    EXPECT_EQ(placeSearchUrl(QUrl(u"https://host/"_s), u"Köln & x"_s).toEncoded(),
+    EXPECT_EQ(placeSearchUrl(QUrl(u"https://host/"_s), u"Köln & x"_s).toEncoded().toStdString(),
               "https://host/v1/search?name=K%C3%B6ln%20%26%20x&count=10&language=en&format=json");
 }
 

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/Keychain.h"
+
+namespace quillmere {
+
+/// The keyring of the desktop, by QtKeychain; under its attributes a secret's service is "server"
+/// and its account is "user". Main thread only.
+class SecretKeychain : public Keychain
+{
+public:
+    Task read(const QString &service, const QString &account,
+              std::function<void(const Secret &)> done) override;
+};
+
+} // namespace quillmere
