@@ -47,7 +47,8 @@ std::optional<QList<FoundPlace>> placesIn(const QByteArray &answer)
     if (!document.isObject())
         return std::nullopt;
     QList<FoundPlace> places;
-    for (const QJsonValue &value : document["results"_L1].toArray()) {
+    const QJsonArray results = document["results"_L1].toArray();
+    for (const auto &value : results) {
         const QJsonObject place = value.toObject();
         const auto location =
             TypedPlace::locationIn({{u"name"_s, place["name"_L1].toVariant()},

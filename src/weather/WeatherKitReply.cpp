@@ -31,7 +31,7 @@ WeatherCondition conditionOf(const QJsonObject &weather)
 QList<HourlyForecast> hoursOf(const QJsonArray &hours, const QDateTime &now)
 {
     QList<HourlyForecast> forecasts;
-    for (const QJsonValue &value : hours) {
+    for (const auto &value : hours) {
         if (forecasts.size() == mostForecastHours)
             break;
         const QJsonObject hour = value.toObject();
@@ -48,7 +48,7 @@ QList<HourlyForecast> hoursOf(const QJsonArray &hours, const QDateTime &now)
 
 QJsonObject todayIn(const QJsonArray &days, const QDateTime &now)
 {
-    for (const QJsonValue &value : days) {
+    for (const auto &value : days) {
         const QDateTime start = startOf(value.toObject());
         if (start.isValid() && start.toTimeZone(now.timeZone()).date() == now.date())
             return value.toObject();

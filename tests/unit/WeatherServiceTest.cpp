@@ -1,12 +1,18 @@
 #include "weather/WeatherService.h"
 
+#include "island/HUDManager.h"
+#include "island/IslandDebugLogger.h"
 #include "support/FakeHttpClient.h"
 #include "support/FakeWeather.h"
 #include "support/LogCapture.h"
-#include "support/MemoryUserDefaults.h"
+#include "support/SettingsFixture.h"
 #include "weather/TypedPlace.h"
+#include "weather/WeatherAnnouncer.h"
+#include "weather/WeatherFields.h"
 
 #include <gmock/gmock.h>
+
+#include <QTemporaryDir>
 
 namespace quillmere {
 namespace {
@@ -255,6 +261,40 @@ TEST_F(WeatherServiceTest, StoppedItAsksNoMore)
     runLoop.advance(1h);
     EXPECT_FALSE(http.answer(HttpResponse{200, {}, rain}));
     EXPECT_THAT(updates, IsEmpty());
+}
+
+TEST(WeatherAnnouncerTest, DistinctWeatherIsAnnouncedOnce)
+{
+    const QTemporaryDir folder;
+    ManualRunLoop runLoop;
+    SettingsFixture fixture;
+    IslandDebugLogger logger(runLoop, folder.path());
+    HUDManager hudManager(runLoop, fixture.settings, logger);
+    WeatherAnnouncer announcer(fixture.settings, hudManager);
+    WeatherData weather{.temperature = 12, .conditionLabel = u"Rain"_s, .locationName = u"Oslo"_s};
+    int shown = 0;
+    QObject::connect(&hudManager, &HUDManager::currentHUDChanged,
+                     [&] { shown += hudManager.currentHUD().has_value(); });
+
+    announcer.announce(weather);
+    EXPECT_FALSE(announcer.hasFired()) << "nothing is shown right after the start";
+    runLoop.advance(10s);
+    for (int i = 0; i < 3; ++i) {
+        announcer.announce(weather);
+        runLoop.advance(5001ms);
+        EXPECT_FALSE(hudManager.currentHUD());
+    }
+    EXPECT_EQ(shown, 1);
+    EXPECT_EQ(hudManager.hudQueue().size(), 1);
+    fixture.settings.showWeatherHUD.set(false);
+    weather.conditionLabel = u"Snow"_s;
+    announcer.announce(weather);
+    EXPECT_EQ(shown, 1);
+    fixture.settings.showWeatherHUD.set(true);
+    announcer.announce(weather);
+    EXPECT_EQ(shown, 2);
+    EXPECT_EQ(weatherFields(weather).value(u"source"_s), u"openMeteo"_s);
+    EXPECT_FALSE(weatherFields(weather).contains(u"humidity"_s));
 }
 
 } // namespace
