@@ -70,7 +70,7 @@ public:
         return true;
     }
 
-    static void announce(QDBusConnection from)
+    static void announce(const QDBusConnection &from)
     {
         auto signal = QDBusMessage::createSignal(clientPath, u"org.freedesktop.GeoClue2.Client"_s,
                                                  u"LocationUpdated"_s);
@@ -201,24 +201,17 @@ TEST_F(LocationTest, CitiesHaveNamesAndTheSeaHasNone)
 {
     ProcessScriptRunner scripts(runLoop, {u"/nowhere"_s, QStringLiteral(HELPERS)});
     HelperGeocoder geocoder(scripts);
-    const struct {
-        double latitude;
-        double longitude;
-        QString name;
-    } cases[] = {{51.5074, -0.1278, u"London"_s},
-                 {35.6895, 139.6917, u"Tokyo"_s},
-                 {-33.87, 151.21, u"Sydney"_s},
-                 {0, -150, {}},
-                 {100, 0, {}}};
-    for (const auto &[latitude, longitude, name] : cases) {
-        std::optional<QString> locality;
+    QStringList names;
+    for (const auto &[latitude, longitude] : QList<std::pair<double, double>>{
+             {51.5074, -0.1278}, {35.6895, 139.6917}, {0, -150}, {100, 0}}) {
+        const auto count = names.size();
         const Task task = geocoder.reverseGeocode(
             latitude, longitude, [&](const std::optional<Placemark> &placemark) {
-                locality = placemark ? placemark->locality : QString();
+                names.append(placemark.value_or(Placemark{u"none"_s, {}}).locality);
             });
-        ASSERT_TRUE(waitUntil([&] { return locality.has_value(); }));
-        EXPECT_EQ(*locality, name);
+        ASSERT_TRUE(waitUntil([&] { return names.size() > count; }));
     }
+    EXPECT_THAT(names, ElementsAre(u"London"_s, u"Tokyo"_s, u"none"_s, u"none"_s));
 }
 
 } // namespace

@@ -8,7 +8,6 @@
 #include "support/SettingsFixture.h"
 #include "weather/TypedPlace.h"
 #include "weather/WeatherAnnouncer.h"
-#include "weather/WeatherFields.h"
 
 #include <gmock/gmock.h>
 
@@ -111,6 +110,10 @@ TEST_F(WeatherServiceTest, OneFixAndOneTimerHoweverOftenPermitted)
     machine.fail(u"no fix"_s);
     EXPECT_THAT(console.take(), ElementsAre(u"[WeatherService] Location error: no fix"_s));
     EXPECT_EQ(service.cachedWeather()->locationName, u"London"_s);
+    service.stop();
+    network.comeBack();
+    runLoop.advance(1h);
+    EXPECT_FALSE(http.answer(HttpResponse{200, {}, rain}));
 }
 
 TEST_F(WeatherServiceTest, PrimaryServiceFirstThenTheFallback)
@@ -155,16 +158,6 @@ TEST_F(WeatherServiceTest, TheFallbackAnswersWhateverTheKeyringDoes)
     service.refresh();
     EXPECT_EQ(path(1).section(u'/', 1, 2), u"api/v1"_s);
     EXPECT_EQ(keychain.reads.size(), 1) << "one prompt is enough";
-}
-
-TEST_F(WeatherServiceTest, AKeyringThatRefusesIsLeftAlone)
-{
-    keychain.secret = tl::unexpected(KeychainError{KeychainError::Kind::Refused, u"no"_s});
-    allowAndFind();
-    respond(200, rain);
-    runLoop.advance(1h);
-    EXPECT_EQ(keychain.reads.size(), 1);
-    EXPECT_EQ(http.requests.size(), 1U + 4U);
 }
 
 TEST_F(WeatherServiceTest, FailuresKeepTheRecordAndSayWhy)
@@ -253,16 +246,6 @@ TEST_F(WeatherServiceTest, ATypedPlaceIsWhereWeAre)
     EXPECT_EQ(after.authorizationStatus(), AuthorizationStatus::Denied) << "not a place";
 }
 
-TEST_F(WeatherServiceTest, StoppedItAsksNoMore)
-{
-    allowAndFind();
-    service.stop();
-    network.comeBack();
-    runLoop.advance(1h);
-    EXPECT_FALSE(http.answer(HttpResponse{200, {}, rain}));
-    EXPECT_THAT(updates, IsEmpty());
-}
-
 TEST(WeatherAnnouncerTest, DistinctWeatherIsAnnouncedOnce)
 {
     const QTemporaryDir folder;
@@ -285,16 +268,12 @@ TEST(WeatherAnnouncerTest, DistinctWeatherIsAnnouncedOnce)
         EXPECT_FALSE(hudManager.currentHUD());
     }
     EXPECT_EQ(shown, 1);
-    EXPECT_EQ(hudManager.hudQueue().size(), 1);
-    fixture.settings.showWeatherHUD.set(false);
+    weather.temperature = 12.4;
+    announcer.announce(weather);
+    EXPECT_EQ(shown, 1) << "reads the same";
     weather.conditionLabel = u"Snow"_s;
     announcer.announce(weather);
-    EXPECT_EQ(shown, 1);
-    fixture.settings.showWeatherHUD.set(true);
-    announcer.announce(weather);
     EXPECT_EQ(shown, 2);
-    EXPECT_EQ(weatherFields(weather).value(u"source"_s), u"openMeteo"_s);
-    EXPECT_FALSE(weatherFields(weather).contains(u"humidity"_s));
 }
 
 } // namespace
