@@ -106,7 +106,7 @@ void ContentView::observe(NotificationCenter &notificationCenter)
     connect(&hudManager_, &HUDManager::hudQueueChanged, this, wingsHaveChanged);
     connect(&hudManager_, &HUDManager::currentQueueIndexChanged, this, wingsHaveChanged);
     connect(&settings_, &SettingsStore::didChange, this, [this](const QString &key) {
-        if (key == settings_.showFileTray.key())
+        if (key == settings_.showFileTray.key() || key == settings_.showSystemMonitor.key())
             offerPages();
     });
 }
@@ -114,6 +114,9 @@ void ContentView::observe(NotificationCenter &notificationCenter)
 void ContentView::offerPages()
 {
     QList<IslandPage> pages{IslandPage::Main};
+    pages.append(IslandPage::Weather);
+    if (settings_.showSystemMonitor.get())
+        pages.append(IslandPage::System);
     if (settings_.showFileTray.get())
         pages.append(IslandPage::FileTray);
     pages_.offer(pages);
@@ -124,6 +127,11 @@ Presentation ContentView::presentation() const
     if (!isExpanded_)
         return Presentation::Collapsed;
     return userExpanded_ ? Presentation::Expanded : Presentation::HUD;
+}
+
+bool ContentView::shows(IslandPage page) const
+{
+    return presentation() == Presentation::Expanded && pages_.islandPage() == page;
 }
 
 std::optional<HUDContent> ContentView::idleActivity() const
@@ -169,6 +177,17 @@ void ContentView::pointerExited()
                     decimal(settings_.autoCollapseDelay.get()));
         scheduleCollapse();
     }));
+}
+
+void ContentView::setTyping(bool typing)
+{
+    typing = typing && presentation() == Presentation::Expanded;
+    if (std::exchange(isTyping_, typing) == typing)
+        return;
+    panel_.setKey(typing);
+    if (!typing && isExpanded_)
+        scheduleCollapse();
+    Q_EMIT typingChanged();
 }
 
 void ContentView::toggle()
@@ -310,7 +329,7 @@ void ContentView::collapse()
 
 bool ContentView::collapseIsHeldUp() const
 {
-    return pointerInside_ || airPlayPickerOpen_ || isDraggingFile_;
+    return pointerInside_ || airPlayPickerOpen_ || isDraggingFile_ || isTyping_;
 }
 
 void ContentView::setState(bool isExpanded, bool userExpanded)
@@ -322,6 +341,8 @@ void ContentView::setState(bool isExpanded, bool userExpanded)
     if (hudEnded)
         shownHUD_.reset();
     updateSize();
+    if (presentation() != Presentation::Expanded)
+        setTyping(false);
     if (presentation() != before)
         Q_EMIT presentationChanged();
     if (hudEnded)

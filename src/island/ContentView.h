@@ -31,8 +31,8 @@ QSizeF hudSize(HUDContent::HUDType type);
 /// The island's presentation: whether it is the pill, a HUD or the dashboard, why, how large that
 /// is, and when it becomes the pill again.
 ///
-/// An expansion always ends: a collapse is pending, or the pointer, an open output picker or a file
-/// drag holds it up and arms it again when it leaves. Main thread only.
+/// An expansion always ends: a collapse is pending, or the pointer, an open output picker, typing
+/// or a file drag holds it up and arms it again when it leaves. Main thread only.
 class ContentView : public QObject
 {
     Q_OBJECT
@@ -59,11 +59,18 @@ public:
 
     bool isDraggingFile() const { return isDraggingFile_; }
 
+    /// Whether the dashboard is open at this page.
+    bool shows(IslandPage page) const;
+
     IslandPages &pages() { return pages_; }
     const IslandPages &pages() const { return pages_; }
 
     void pointerEntered();
     void pointerExited();
+
+    /// The user types into the dashboard, which stays open meanwhile. Closing it ends that.
+    bool isTyping() const { return isTyping_; }
+    void setTyping(bool typing);
 
     /// Opens the dashboard, or closes what is open.
     void toggle();
@@ -80,6 +87,7 @@ Q_SIGNALS:
     void shownHUDChanged();
     void wingsChanged();
     void draggingChanged();
+    void typingChanged();
 
 private:
     void observe(NotificationCenter &notificationCenter);
@@ -118,6 +126,7 @@ private:
     bool airPlayPickerOpen_ = false;
     bool pointerInside_ = false;
     bool isDraggingFile_ = false;
+    bool isTyping_ = false;
     bool openedByDrag_ = false;
     std::optional<IslandPage> pageBeforeDrag_;
     std::optional<HUDContent> shownHUD_;

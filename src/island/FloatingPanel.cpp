@@ -114,6 +114,11 @@ void FloatingPanel::orderFront()
         window_.orderFront();
 }
 
+void FloatingPanel::setKey(bool key)
+{
+    window_.setKey(key);
+}
+
 void FloatingPanel::mouseDown()
 {
     notificationCenter_.post(events::islandTapped);

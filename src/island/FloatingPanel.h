@@ -61,6 +61,9 @@ public:
 
     void orderFront();
 
+    /// Whether what is typed goes to the panel.
+    void setKey(bool key);
+
     /// A press on the island that no control of it took.
     void mouseDown();
     void scrollWheel(const ScrollEvent &event);

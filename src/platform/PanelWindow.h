@@ -76,6 +76,9 @@ public:
     /// Puts it in front of everything again.
     virtual void orderFront() = 0;
 
+    /// While it is key, what is typed goes to it; after that, to whom it went before.
+    virtual void setKey(bool key) = 0;
+
     /// True while another program's window fills the panel's screen.
     virtual bool isCoveredByFullscreen() const = 0;
     virtual Task onFullscreenChanged(std::function<void()> listener) = 0;

@@ -26,6 +26,7 @@ public:
     void registerForFileDrops() override { calls.emplace_back("drops"); }
     void setFrame(const QRectF &newFrame) override { note("frame", frame, newFrame); }
     void setVisible(bool show) override { note(show ? "show" : "hide", visible, show); }
+    void setKey(bool isKey) override { note(isKey ? "key" : "no key", key, isKey); }
     void orderFront() override { calls.emplace_back("front"); }
     bool isCoveredByFullscreen() const override { return covered; }
     Task onFullscreenChanged(std::function<void()> listener) override
@@ -48,6 +49,7 @@ public:
     QRectF frame;
     bool visible = false;
     bool covered = false;
+    bool key = false;
     std::vector<std::string> calls;
 
 private:

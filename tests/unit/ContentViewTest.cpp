@@ -231,6 +231,7 @@ TEST_F(ContentViewTest, FileDragOpensTheTrayAndGoesBack)
 TEST_F(ContentViewTest, PagesRecordWhereTheyCameFrom)
 {
     auto &pages = content.pages();
+    pages.offer({IslandPage::Main});
     pages.step(1);
     EXPECT_EQ(pages.islandPage(), IslandPage::Main); // the only one
     pages.offer({IslandPage::Main, IslandPage::Weather, IslandPage::Timer});
@@ -392,7 +393,7 @@ TEST_F(ContentViewTest, RandomWalkNeverLeavesTheIslandOpenOrClosesItUnderTheHand
     bool dragging = false;
     Instant lastEvent = runLoop.now();
     for (int i = 0; i < 100'000; ++i) {
-        const bool heldBefore = inside || picker || dragging;
+        const bool heldBefore = inside || picker || dragging || content.isTyping();
         const bool openBefore = content.isExpanded();
         const int move = pick(12);
         switch (move) {
@@ -423,7 +424,7 @@ TEST_F(ContentViewTest, RandomWalkNeverLeavesTheIslandOpenOrClosesItUnderTheHand
             settings.autoCollapseDelay.set(pick(9) * 0.5);
             break;
         case 8:
-            content.dismissHUD();
+            pick(2) ? content.dismissHUD() : content.setTyping(pick(2));
             break;
         case 9:
             runLoop.advance(std::chrono::seconds(pick(12)));
@@ -438,7 +439,7 @@ TEST_F(ContentViewTest, RandomWalkNeverLeavesTheIslandOpenOrClosesItUnderTheHand
         if (passedTime && heldBefore) {
             ASSERT_EQ(content.isExpanded(), openBefore) << "closed under the hand, step " << i;
         }
-        const bool held = inside || picker || dragging;
+        const bool held = inside || picker || dragging || content.isTyping();
         if (!held && runLoop.now() - lastEvent > 10s) {
             ASSERT_FALSE(content.isExpanded()) << "left open, step " << i;
         }

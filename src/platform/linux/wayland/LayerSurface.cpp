@@ -7,7 +7,7 @@ namespace quillmere {
 namespace {
 
 constexpr int underReservedAreas = -1;
-constexpr std::uint32_t noKeyboard = 0;
+constexpr std::uint32_t onDemandSince = 4;
 constexpr const char *surfaceNamespace = "quillmere";
 
 } // namespace
@@ -27,7 +27,8 @@ LayerSurface::LayerSurface(zwlr_layer_shell_v1 &shell, wl_surface &surface, wl_o
     zwlr_layer_surface_v1_set_anchor(role_.get(), ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP |
                                                       ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT);
     zwlr_layer_surface_v1_set_exclusive_zone(role_.get(), underReservedAreas);
-    zwlr_layer_surface_v1_set_keyboard_interactivity(role_.get(), noKeyboard);
+    zwlr_layer_surface_v1_set_keyboard_interactivity(
+        role_.get(), ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_NONE);
     setPosition(rect.topLeft());
     wl_surface_commit(&surface_);
 }
@@ -37,6 +38,18 @@ void LayerSurface::move(QPoint position)
     if (position == position_)
         return;
     setPosition(position);
+    wl_surface_commit(&surface_);
+}
+
+void LayerSurface::setKeyboard(Keyboard keyboard)
+{
+    auto interactivity = ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_NONE;
+    if (keyboard == Keyboard::Lent &&
+        zwlr_layer_surface_v1_get_version(role_.get()) >= onDemandSince)
+        interactivity = ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_ON_DEMAND;
+    else if (keyboard != Keyboard::None)
+        interactivity = ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE;
+    zwlr_layer_surface_v1_set_keyboard_interactivity(role_.get(), interactivity);
     wl_surface_commit(&surface_);
 }
 

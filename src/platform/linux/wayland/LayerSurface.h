@@ -11,8 +11,8 @@
 namespace quillmere {
 
 /// Gives a wl_surface the role of a surface that hangs from the top edge of an output: over
-/// full-screen windows, over what panels have reserved, never with the keyboard. Destroying it
-/// takes the surface off the screen; that has to happen before the wl_surface goes.
+/// full-screen windows, over what panels have reserved, without the keyboard until it is wanted.
+/// Destroying it takes the surface off the screen; that has to happen before the wl_surface goes.
 ///
 /// Either callback may destroy it.
 class LayerSurface
@@ -28,6 +28,13 @@ public:
 
     /// Puts its top left corner there.
     void move(QPoint position);
+
+    enum class Keyboard {
+        None,
+        Taken, ///< from whatever has it, and kept from all others
+        Lent   ///< as a window's; Taken where the compositor does not know it
+    };
+    void setKeyboard(Keyboard keyboard);
 
     std::function<void()> onConfigured; ///< the first time only
     std::function<void()> onClosed;     ///< the compositor has taken it off the screen for good

@@ -2,11 +2,15 @@
 
 #include <QDebug>
 
+#include <algorithm>
 #include <cstring>
 
 namespace quillmere {
 
 namespace {
+
+/// The newest whose requests we know.
+constexpr std::uint32_t newestLayerShell = 4;
 
 /// Full-screen states are told from this version on.
 constexpr std::uint32_t toplevelVersion = 2;
@@ -41,8 +45,8 @@ void WaylandGlobals::globalAdded(void *data, wl_registry *registry, std::uint32_
 {
     auto &self = *static_cast<WaylandGlobals *>(data);
     if (is(interface, zwlr_layer_shell_v1_interface) && !self.layerShell_) {
-        self.layerShell_.reset(
-            bind<zwlr_layer_shell_v1>(registry, name, zwlr_layer_shell_v1_interface, 1));
+        self.layerShell_.reset(bind<zwlr_layer_shell_v1>(
+            registry, name, zwlr_layer_shell_v1_interface, std::min(version, newestLayerShell)));
     } else if (is(interface, zwlr_foreign_toplevel_manager_v1_interface) &&
                version >= toplevelVersion && !self.toplevels_) {
         self.toplevels_.emplace(*bind<zwlr_foreign_toplevel_manager_v1>(

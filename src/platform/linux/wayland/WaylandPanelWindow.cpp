@@ -40,6 +40,11 @@ WaylandPanelWindow::WaylandPanelWindow(QWindow &window, WaylandGlobals &globals)
         if (!visible)
             dropRole();
     });
+    // Who has been given the keyboard is not to keep it from a window the user turns to.
+    connect(&window, &QWindow::activeChanged, this, [this] {
+        if (role_ && window_->isActive())
+            role_->setKeyboard(LayerSurface::Keyboard::Lent);
+    });
     scaleObserver_ = globals_.outputs().onScaleChanged([this] { update_.start(0); });
     answeredObserver_ = globals_.onAnswered([this] { answered(); });
 }
@@ -101,6 +106,14 @@ void WaylandPanelWindow::setVisible(bool visible)
 
 // The compositor keeps the layers in their order.
 void WaylandPanelWindow::orderFront() {}
+
+void WaylandPanelWindow::setKey(bool key)
+{
+    if (window_)
+        window_->setFlag(Qt::WindowDoesNotAcceptFocus, !key);
+    if (role_)
+        role_->setKeyboard(key ? LayerSurface::Keyboard::Taken : LayerSurface::Keyboard::None);
+}
 
 Task WaylandPanelWindow::onFullscreenChanged(std::function<void()> listener)
 {

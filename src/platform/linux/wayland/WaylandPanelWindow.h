@@ -41,6 +41,7 @@ public:
     void setFrame(const QRectF &frame) override;
     void setVisible(bool visible) override;
     void orderFront() override;
+    void setKey(bool key) override;
     bool isCoveredByFullscreen() const override { return covered_; }
     Task onFullscreenChanged(std::function<void()> listener) override;
 

@@ -2,7 +2,6 @@
 
 #include "platform/linux/window/PanelShape.h"
 #include "platform/linux/window/ScreenMapping.h"
-#include "platform/linux/window/X11Surface.h"
 
 #include <QGuiApplication>
 #include <QPlatformSurfaceEvent>
@@ -99,6 +98,21 @@ void X11PanelWindow::orderFront()
     window_->raise();
     if (const auto surface = X11Surface::of(*window_))
         surface->flush();
+}
+
+void X11PanelWindow::setKey(bool key)
+{
+    const auto surface = window_ ? X11Surface::of(*window_) : std::nullopt;
+    if (!surface || key == focusBefore_.has_value())
+        return;
+    window_->setFlag(Qt::WindowDoesNotAcceptFocus, !key);
+    if (key) {
+        focusBefore_ = surface->focusedWindow();
+        window_->requestActivate();
+    } else {
+        surface->returnFocus(*std::exchange(focusBefore_, std::nullopt));
+        surface->flush();
+    }
 }
 
 Task X11PanelWindow::onFullscreenChanged(std::function<void()> listener)

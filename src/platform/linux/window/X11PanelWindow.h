@@ -3,6 +3,7 @@
 #include "platform/Listeners.h"
 #include "platform/PanelWindow.h"
 #include "platform/linux/window/X11Observer.h"
+#include "platform/linux/window/X11Surface.h"
 
 #include <QObject>
 #include <QPointer>
@@ -13,7 +14,8 @@ namespace quillmere {
 
 /// The panel as an unmanaged X window: a transparent canvas of fixed size that hangs from the top
 /// edge, of which only the island's frame takes input. Being unmanaged it is on every desktop,
-/// never has the focus, and no window manager moves it; it keeps itself in front of the others.
+/// no window manager moves it or gives it the focus, which it has to take when it is to be typed
+/// in; it keeps itself in front of the others.
 ///
 /// The window is made by whoever draws in it and outlives the panel's use of it; its top left
 /// corner is where the canvas begins. On another window system it is shown without what only X
@@ -36,6 +38,7 @@ public:
     void setFrame(const QRectF &frame) override;
     void setVisible(bool visible) override;
     void orderFront() override;
+    void setKey(bool key) override;
     bool isCoveredByFullscreen() const override { return covered_; }
     Task onFullscreenChanged(std::function<void()> listener) override;
 
@@ -60,7 +63,8 @@ private:
     PanelTraits traits_;
     bool visible_ = false;
     bool covered_ = false;
-    std::optional<Shape> shape_; // as the server knows it
+    std::optional<xcb_window_t> focusBefore_; ///< present while the panel is key
+    std::optional<Shape> shape_;              // as the server knows it
 
     Listeners<> fullscreenListeners_;
     Task restackObserver_;

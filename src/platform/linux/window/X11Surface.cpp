@@ -6,6 +6,8 @@
 #include <xcb/shape.h>
 
 #include <array>
+#include <cstdlib>
+#include <memory>
 #include <vector>
 
 namespace quillmere {
@@ -75,6 +77,20 @@ void X11Surface::setBoundingRegion(const std::optional<QRegion> &region) const
     else
         xcb_shape_mask(connection_, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, window_, 0, 0,
                        XCB_PIXMAP_NONE);
+}
+
+xcb_window_t X11Surface::focusedWindow() const
+{
+    const std::unique_ptr<xcb_get_input_focus_reply_t, void (*)(void *)> reply(
+        xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr),
+        std::free);
+    return reply ? reply->focus : XCB_NONE;
+}
+
+void X11Surface::returnFocus(xcb_window_t window) const
+{
+    if (focusedWindow() == window_)
+        xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
 }
 
 void X11Surface::flush() const

@@ -28,6 +28,12 @@ public:
     /// What of the window exists at all; nothing for all of it.
     void setBoundingRegion(const std::optional<QRegion> &region) const;
 
+    /// The window that has the keyboard now; XCB_NONE without one.
+    xcb_window_t focusedWindow() const;
+
+    /// Gives the keyboard to `window`, unless the user has taken it elsewhere already.
+    void returnFocus(xcb_window_t window) const;
+
     void flush() const;
 
 private:
