@@ -68,7 +68,11 @@ private:
         model_.emplace(app_.hudManager(), island.contentView, island.panel, app_.settings(),
                        services.appearance);
         dashboard_.emplace(services.runLoop, app_.settings(), app_.hudManager(), island.contentView,
-                           island.outputPicker, island.fileTray, island.claudeCode,
+                           DashboardSources{.outputPicker = island.outputPicker,
+                                            .fileTray = island.fileTray,
+                                            .claudeCode = island.claudeCode,
+                                            .weather = island.weather,
+                                            .systemLoad = island.systemLoad},
                            services.appearance);
         const auto openLink = [](const QUrl &link) { QDesktopServices::openUrl(link); };
         QObject::connect(&*model_, &IslandModel::linkActivated, openLink);

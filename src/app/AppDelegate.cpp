@@ -7,9 +7,13 @@
 #include "app/FileDrop.h"
 #include "app/FileTray.h"
 #include "app/MediaPlayback.h"
+#include "app/PowerAlerts.h"
+#include "app/SettingSubscription.h"
 #include "app/StatusMenu.h"
+#include "app/SystemLoad.h"
 #include "app/UpdateHUD.h"
 #include "app/Updater.h"
+#include "app/WeatherReports.h"
 #include "claude/ClaudeCodeMonitor.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
@@ -35,18 +39,6 @@ namespace {
 /// A sound server that has just started offers a placeholder, then its own devices, then those that
 /// connect by themselves. Where that ends is where new devices begin.
 constexpr Duration soundServerSettles = std::chrono::seconds(3);
-
-/// Calls `apply` after every change of the setting, until the Task is gone.
-template <class Setting, class Apply>
-Task subscribe(SettingsStore &settings, const Setting &setting, QObject *context, Apply apply)
-{
-    const auto connection = QObject::connect(&settings, &SettingsStore::didChange, context,
-                                             [&setting, apply](const QString &key) {
-                                                 if (key == setting.key())
-                                                     apply(setting.get());
-                                             });
-    return Task([connection] { QObject::disconnect(connection); });
-}
 
 } // namespace
 
@@ -139,9 +131,23 @@ void AppDelegate::createIsland()
         else
             media_->previousTrack();
     };
+    const auto isSuppressed = [this] { return hudsAreSuppressed(); };
+    powerAlerts_ = std::make_unique<PowerAlerts>(platform_, settings_, hudManager_, isSuppressed);
+    weather_ =
+        std::make_unique<WeatherReports>(WeatherTools{.runLoop = platform_.runLoop,
+                                                      .locationManager = platform_.locationManager,
+                                                      .geocoder = platform_.geocoder,
+                                                      .httpClient = platform_.httpClient,
+                                                      .keychain = platform_.keychain,
+                                                      .reachability = platform_.reachability},
+                                         platform_.localDefaults, settings_, hudManager_);
+    weather_->isSuppressed = isSuppressed;
+    weather_->isOnShow = [this] { return contentView_->shows(IslandPage::Weather); };
+    systemLoad_ = std::make_unique<SystemLoad>(platform_.runLoop, platform_.hostStatistics,
+                                               settings_, hudManager_);
     if (onIslandCreated)
-        onIslandCreated(
-            {*floatingPanel_, *contentView_, *outputPicker_, *fileTray_, *media_, *claudeCode_});
+        onIslandCreated({*floatingPanel_, *contentView_, *outputPicker_, *fileTray_, *media_,
+                         *claudeCode_, *weather_, *systemLoad_});
     floatingPanel_->displaysDidChange();
 }
 
@@ -149,7 +155,10 @@ void AppDelegate::createMonitors()
 {
     createVolumeMonitor();
     createBrightnessMonitor();
+    powerAlerts_->start();
+    weather_->start();
     createAudioOutputMonitor();
+    systemLoad_->start();
     startClaudeCode();
 }
 
@@ -329,10 +338,16 @@ void AppDelegate::applicationWillTerminate()
         volumeMonitor_->stop();
     if (brightnessMonitor_)
         brightnessMonitor_->stop();
+    if (powerAlerts_)
+        powerAlerts_->stop();
+    if (weather_)
+        weather_->stop();
     if (outputPicker_)
         outputPicker_->stop();
     outputAvailability_.cancel();
     soundServerChanged(false);
+    if (systemLoad_)
+        systemLoad_->stop();
     if (claudeCode_)
         claudeCode_->stop();
     if (media_)

@@ -27,9 +27,12 @@ class IdleWings;
 class IslandDebugLogger;
 class IslandGestures;
 class MediaPlayback;
+class PowerAlerts;
 class SettingsStore;
+class SystemLoad;
 class Updater;
 class VolumeMonitor;
+class WeatherReports;
 struct HUDContent;
 
 /// The island and what it shows, for the views.
@@ -40,6 +43,8 @@ struct Island {
     FileTray &fileTray;
     MediaPlayback &media;
     ClaudeCodeMonitor &claudeCode;
+    WeatherReports &weather;
+    SystemLoad &systemLoad;
 };
 
 /// The start-up and shutdown spine: creates every long-lived object in a fixed order, connects the
@@ -74,6 +79,7 @@ public:
     /// Null before launch.
     MediaPlayback *media() const { return media_.get(); }
     ClaudeCodeMonitor *claudeCode() const { return claudeCode_.get(); }
+    WeatherReports *weather() const { return weather_.get(); }
     FloatingPanel *floatingPanel() const { return floatingPanel_.get(); }
     ContentView *contentView() const { return contentView_.get(); }
 
@@ -120,6 +126,9 @@ private:
     std::unique_ptr<DeviceHUD> deviceHUD_;
     std::unique_ptr<MediaPlayback> media_;
     std::unique_ptr<ClaudeCodeMonitor> claudeCode_;
+    std::unique_ptr<PowerAlerts> powerAlerts_;
+    std::unique_ptr<WeatherReports> weather_;
+    std::unique_ptr<SystemLoad> systemLoad_;
     std::unique_ptr<Updater> updaterController_;
     Task audioAvailability_;
     Task outputAvailability_;

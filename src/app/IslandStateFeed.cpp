@@ -5,6 +5,8 @@
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
 #include "platform/StatePublisher.h"
+#include "weather/WeatherFields.h"
+#include "weather/WeatherService.h"
 
 namespace quillmere {
 
@@ -17,9 +19,10 @@ void insertIfPresent(QVariantMap &map, const char *key, const std::optional<T> &
         map.insert(QLatin1StringView(key), *value);
 }
 
-QVariantMap hudOrNothing(const std::optional<HUDContent> &hud)
+template <class T>
+QVariantMap fieldsOrNothing(const std::optional<T> &record, QVariantMap (*fields)(const T &))
 {
-    return hud ? hudFields(*hud) : QVariantMap();
+    return record ? fields(*record) : QVariantMap();
 }
 
 QVariantList activityFields(const QList<HUDContent> &queue)
@@ -62,9 +65,20 @@ QVariantMap claudeCodeFields(const ClaudeCodeMonitor &monitor)
     return map;
 }
 
+QVariantMap systemStatsFields(const SystemStats &stats)
+{
+    return {{QStringLiteral("cpuUsage"), stats.cpuUsage},
+            {QStringLiteral("memoryUsage"), stats.memoryUsage},
+            {QStringLiteral("memoryUsedGB"), stats.memoryUsedGB},
+            {QStringLiteral("memoryTotalGB"), stats.memoryTotalGB},
+            {QStringLiteral("diskUsage"), stats.diskUsage},
+            {QStringLiteral("diskUsedGB"), stats.diskUsedGB},
+            {QStringLiteral("diskTotalGB"), stats.diskTotalGB}};
+}
+
 IslandStateFeed::IslandStateFeed(StatePublisher &publisher, HUDManager &hudManager,
                                  ContentView &contentView, FloatingPanel &panel,
-                                 ClaudeCodeMonitor &claudeCode)
+                                 ClaudeCodeMonitor &claudeCode, WeatherService &weather)
 {
     const auto feed = [this](auto &source, auto signal, auto publish) {
         connect(&source, signal, this, publish);
@@ -78,11 +92,12 @@ IslandStateFeed::IslandStateFeed(StatePublisher &publisher, HUDManager &hudManag
         publisher.publish(QStringLiteral("Page"), islandPageName(contentView.pages().islandPage()));
     });
     feed(hudManager, &HUDManager::currentHUDChanged, [&publisher, &hudManager] {
-        publisher.publish(QStringLiteral("CurrentHUD"), hudOrNothing(hudManager.currentHUD()));
+        publisher.publish(QStringLiteral("CurrentHUD"),
+                          fieldsOrNothing(hudManager.currentHUD(), hudFields));
     });
     feed(hudManager, &HUDManager::currentNowPlayingChanged, [&publisher, &hudManager] {
         publisher.publish(QStringLiteral("NowPlaying"),
-                          hudOrNothing(hudManager.currentNowPlaying()));
+                          fieldsOrNothing(hudManager.currentNowPlaying(), hudFields));
     });
     feed(hudManager, &HUDManager::hudQueueChanged, [&publisher, &hudManager] {
         publisher.publish(QStringLiteral("Activities"), activityFields(hudManager.hudQueue()));
@@ -96,6 +111,14 @@ IslandStateFeed::IslandStateFeed(StatePublisher &publisher, HUDManager &hudManag
     feed(claudeCode, &ClaudeCodeMonitor::currentSessionChanged, publishClaudeCode);
     feed(claudeCode, &ClaudeCodeMonitor::statusChanged, publishClaudeCode);
     feed(claudeCode, &ClaudeCodeMonitor::isActiveChanged, publishClaudeCode);
+    feed(weather, &WeatherService::cachedWeatherChanged, [&publisher, &weather] {
+        publisher.publish(QStringLiteral("Weather"),
+                          fieldsOrNothing(weather.cachedWeather(), weatherFields));
+    });
+    feed(hudManager, &HUDManager::systemStatsChanged, [&publisher, &hudManager] {
+        publisher.publish(QStringLiteral("SystemStats"),
+                          fieldsOrNothing(hudManager.systemStats(), systemStatsFields));
+    });
 }
 
 } // namespace quillmere

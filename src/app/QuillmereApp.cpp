@@ -1,5 +1,6 @@
 #include "app/QuillmereApp.h"
 
+#include "app/WeatherReports.h"
 #include "platform/UserDefaults.h"
 
 namespace quillmere {
@@ -22,7 +23,8 @@ void QuillmereApp::launch(std::function<void()> onTerminate)
     appDelegate_.applicationDidFinishLaunching();
     stateFeed_ = std::make_unique<IslandStateFeed>(
         platform_.statePublisher, hudManager_, *appDelegate_.contentView(),
-        *appDelegate_.floatingPanel(), *appDelegate_.claudeCode());
+        *appDelegate_.floatingPanel(), *appDelegate_.claudeCode(),
+        appDelegate_.weather()->service());
     remoteActions_ = std::make_unique<RemoteActions>(platform_.remoteControl,
                                                      platform_.notificationCenter, appDelegate_);
 }

@@ -9,14 +9,21 @@ class BluetoothBatteries;
 class CloudKeyValueStore;
 class DisplayBrightness;
 class DragPasteboard;
+class Geocoder;
 class GlobalEvents;
 class Haptics;
+class HostStatistics;
 class HttpClient;
+class Keychain;
+class LocationManager;
 class LoginItem;
+class LowPowerMode;
 class MediaRemote;
 class MessageSocketServer;
 class NotificationCenter;
 class PanelWindow;
+class PowerSources;
+class Reachability;
 class RemoteControl;
 class RunLoop;
 class RunningApplications;
@@ -24,8 +31,10 @@ class Screens;
 class ScriptRunner;
 class StatePublisher;
 class StatusItem;
+class SystemSound;
 class UserDefaults;
 class UserFiles;
+class UserNotifications;
 
 /// The operating system's services as the application sees them. The composition root builds them
 /// and keeps them alive for longer than everything that uses them.
@@ -53,6 +62,15 @@ struct Platform {
     MediaRemote &mediaRemote;
     MessageSocketServer &messageSocketServer;
     UserFiles &userFiles; ///< those of other programs
+    PowerSources &powerSources;
+    LowPowerMode &lowPowerMode;
+    HostStatistics &hostStatistics;
+    UserNotifications &userNotifications;
+    SystemSound &systemSound;
+    LocationManager &locationManager; ///< the machine's
+    Geocoder &geocoder;
+    Keychain &keychain;
+    Reachability &reachability;
     StatePublisher &statePublisher;
     RemoteControl &remoteControl;
 };

@@ -31,6 +31,7 @@ inline constexpr QLatin1StringView chevronLeft{"chevron.left"};
 inline constexpr QLatin1StringView chevronRight{"chevron.right"};
 inline constexpr QLatin1StringView xmark{"xmark"};
 inline constexpr QLatin1StringView checkmark{"checkmark"};
+inline constexpr QLatin1StringView magnifyingGlass{"magnifyingglass"};
 inline constexpr QLatin1StringView doc{"doc.fill"};
 
 inline constexpr QLatin1StringView playFill{"play.fill"};
@@ -52,6 +53,6 @@ inline constexpr std::array all{
     hifispeaker,     car,          tv,           sunMax,         battery0,         battery25,
     battery50,       battery75,    battery100,   battery100Bolt, trayAndArrowDown, island,
     playFill,        pauseFill,    backwardFill, forwardFill,    shuffle,          repeat,
-    heart,           docOnDoc,     musicNote,    playCircle};
+    heart,           docOnDoc,     musicNote,    playCircle,     magnifyingGlass};
 
 } // namespace quillmere::symbols

@@ -12,8 +12,14 @@ FocusScope {
     readonly property real footHeight: 32
 
     focus: true
+    Window.onActiveChanged: {
+        if (!Window.active)
+            model.typing = false;
+    }
     Keys.onEscapePressed: model.pickerOpen ? model.closePicker() : model.close()
     Keys.onPressed: event => {
+        if (model.typing)
+            return;
         const forward = LayoutMirroring.enabled ? Qt.Key_Left : Qt.Key_Right;
         const back = LayoutMirroring.enabled ? Qt.Key_Right : Qt.Key_Left;
         if (event.key !== forward && event.key !== back)
@@ -78,6 +84,10 @@ FocusScope {
                 switch (slot.name) {
                 case "main":
                     return mainPage;
+                case "weather":
+                    return weatherPage;
+                case "system":
+                    return systemPage;
                 case "fileTray":
                     return trayPage;
                 default:
@@ -93,6 +103,19 @@ FocusScope {
             model: dashboard.model
             live: dashboard.live
             reducedMotion: dashboard.motion === Follower.Linear
+        }
+    }
+    Component {
+        id: weatherPage
+        WeatherPage {
+            model: dashboard.model
+        }
+    }
+    Component {
+        id: systemPage
+        SystemPage {
+            model: dashboard.model.system
+            live: dashboard.live
         }
     }
     Component {

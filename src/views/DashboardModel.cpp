@@ -2,6 +2,7 @@
 
 #include "app/AudioOutputPicker.h"
 #include "app/FileTray.h"
+#include "app/WeatherReports.h"
 #include "island/ContentView.h"
 #include "island/HUDManager.h"
 #include "settings/SettingsStore.h"
@@ -44,20 +45,22 @@ QString title(IslandPage page)
 } // namespace
 
 DashboardModel::DashboardModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
-                               ContentView &contentView, AudioOutputPicker &outputPicker,
-                               FileTray &fileTray, ClaudeCodeMonitor &claudeCode,
+                               ContentView &contentView, const DashboardSources &sources,
                                Appearance &appearance, QObject *parent)
     : QObject(parent)
     , runLoop_(runLoop)
     , settings_(settings)
     , hudManager_(hudManager)
     , contentView_(contentView)
-    , outputPicker_(outputPicker)
-    , fileTray_(fileTray)
+    , outputPicker_(sources.outputPicker)
+    , fileTray_(sources.fileTray)
     , appearance_(appearance)
     , slots_{islandPageName(contentView.pages().islandPage()), QString()}
     , media_(runLoop, settings, hudManager, appearance)
-    , assistant_(runLoop, claudeCode)
+    , assistant_(runLoop, sources.claudeCode)
+    , weather_(runLoop, settings, sources.weather.service(), sources.weather.place(),
+               sources.weather.search())
+    , system_(sources.systemLoad)
 {
     const IslandPages &pages = contentView_.pages();
     connect(&pages, &IslandPages::offeredChanged, this, &DashboardModel::pagesChanged);
@@ -65,6 +68,7 @@ DashboardModel::DashboardModel(RunLoop &runLoop, SettingsStore &settings, HUDMan
     connect(&pages, &IslandPages::pageChanged, this, &DashboardModel::pageTurned);
     connect(&contentView_, &ContentView::presentationChanged, this,
             &DashboardModel::presentationChanged);
+    connect(&contentView_, &ContentView::typingChanged, this, &DashboardModel::typingChanged);
     connect(&contentView_, &ContentView::draggingChanged, this, &DashboardModel::draggingChanged);
     connect(&hudManager_, &HUDManager::currentHUDChanged, this, &DashboardModel::updateLevel);
     connect(&hudManager_, &HUDManager::isOvershootChanged, this, &DashboardModel::overshootChanged);
@@ -95,7 +99,24 @@ void DashboardModel::presentationChanged()
         updateActivity();
     }
     assistant_.setWatched(isOpen());
+    watchPages();
     updateLevel();
+}
+
+void DashboardModel::watchPages()
+{
+    weather_.setWatched(contentView_.shows(IslandPage::Weather));
+    system_.setWatched(contentView_.shows(IslandPage::System));
+}
+
+bool DashboardModel::isTyping() const
+{
+    return contentView_.isTyping();
+}
+
+void DashboardModel::setTyping(bool typing)
+{
+    contentView_.setTyping(typing);
 }
 
 QStringList DashboardModel::pages() const
@@ -123,6 +144,7 @@ void DashboardModel::pageTurned()
     outputPicker_.close();
     slide_ += pages.pageSlideDirection();
     slots_[static_cast<std::size_t>(slide_ & 1)] = islandPageName(pages.islandPage());
+    watchPages();
     Q_EMIT pageChanged();
 }
 

@@ -4,6 +4,8 @@
 #include "views/AssistantModel.h"
 #include "views/FaceModel.h"
 #include "views/MediaModel.h"
+#include "views/SystemModel.h"
+#include "views/WeatherModel.h"
 
 #include <QObject>
 #include <QStringList>
@@ -21,6 +23,17 @@ class ContentView;
 class FileTray;
 class HUDManager;
 class SettingsStore;
+class SystemLoad;
+class WeatherReports;
+
+/// Where what the dashboard shows comes from.
+struct DashboardSources {
+    AudioOutputPicker &outputPicker;
+    FileTray &fileTray;
+    ClaudeCodeMonitor &claudeCode;
+    WeatherReports &weather;
+    SystemLoad &systemLoad;
+};
 
 /// What the open dashboard shows, ready to be drawn: its pages, and what is live on them. It
 /// follows the clock only while the dashboard is open.
@@ -50,6 +63,10 @@ class DashboardModel : public QObject
     Q_PROPERTY(quillmere::MediaModel *media READ media CONSTANT FINAL)
     Q_PROPERTY(quillmere::AssistantModel *assistant READ assistant CONSTANT FINAL)
 
+    Q_PROPERTY(quillmere::WeatherModel *weather READ weather CONSTANT FINAL)
+    Q_PROPERTY(quillmere::SystemModel *system READ system CONSTANT FINAL)
+    Q_PROPERTY(bool typing READ isTyping WRITE setTyping NOTIFY typingChanged FINAL)
+
     Q_PROPERTY(QString outputName READ outputName NOTIFY outputChanged FINAL)
     Q_PROPERTY(QString outputSymbol READ outputSymbol NOTIFY outputChanged FINAL)
     Q_PROPERTY(bool pickerOpen READ isPickerOpen NOTIFY pickerOpenChanged FINAL)
@@ -61,9 +78,8 @@ class DashboardModel : public QObject
 
 public:
     DashboardModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
-                   ContentView &contentView, AudioOutputPicker &outputPicker, FileTray &fileTray,
-                   ClaudeCodeMonitor &claudeCode, Appearance &appearance,
-                   QObject *parent = nullptr);
+                   ContentView &contentView, const DashboardSources &sources,
+                   Appearance &appearance, QObject *parent = nullptr);
 
     QStringList pages() const; ///< the titles of the pages offered
     int pageIndex() const;
@@ -89,6 +105,12 @@ public:
 
     MediaModel *media() { return &media_; }
     AssistantModel *assistant() { return &assistant_; }
+    WeatherModel *weather() { return &weather_; }
+    SystemModel *system() { return &system_; }
+
+    /// What is typed goes to the island.
+    bool isTyping() const;
+    void setTyping(bool typing);
 
     QString outputName() const;
     QString outputSymbol() const;
@@ -123,6 +145,7 @@ Q_SIGNALS:
     void pickerOpenChanged();
     void outputsChanged();
     void draggingChanged();
+    void typingChanged();
     void trayFilesChanged();
     void linkActivated(const QUrl &link);
 
@@ -130,6 +153,7 @@ private:
     bool isOpen() const;
     void presentationChanged();
     void pageTurned();
+    void watchPages();
     void updateClock();
     void updateLevel();
     void updateActivity();
@@ -149,6 +173,8 @@ private:
     FaceModel activity_;
     MediaModel media_;
     AssistantModel assistant_;
+    WeatherModel weather_;
+    SystemModel system_;
     Task nextMinute_;
 };
 

@@ -1,6 +1,7 @@
 #include "views/Glyphs.h"
 
 #include "platform/Symbols.h"
+#include "weather/WeatherSymbols.h"
 
 #include <QFile>
 #include <QLoggingCategory>
@@ -54,7 +55,34 @@ constexpr std::array glyphNames{
     GlyphName{symbols::docOnDoc, QLatin1StringView{"actions/edit-copy"}},
     GlyphName{symbols::musicNote, QLatin1StringView{"emblems/emblem-music"}},
     GlyphName{symbols::playCircle, QLatin1StringView{"status/play-circle"}},
+    GlyphName{symbols::magnifyingGlass, QLatin1StringView{"actions/system-search"}},
     GlyphName{symbols::island, QLatin1StringView{"status/island"}},
+    GlyphName{symbols::weather::moon, QLatin1StringView{"status/weather-clear-night"}},
+    GlyphName{symbols::weather::cloud, QLatin1StringView{"status/weather-overcast"}},
+    GlyphName{symbols::weather::cloudSun, QLatin1StringView{"status/weather-few-clouds"}},
+    GlyphName{symbols::weather::cloudMoon, QLatin1StringView{"status/weather-few-clouds-night"}},
+    GlyphName{symbols::weather::fog, QLatin1StringView{"status/weather-fog-cloud"}},
+    GlyphName{symbols::weather::haze, QLatin1StringView{"status/weather-haze"}},
+    GlyphName{symbols::weather::dust, QLatin1StringView{"status/weather-haze"}},
+    GlyphName{symbols::weather::smoke, QLatin1StringView{"status/weather-fog-cloud"}},
+    GlyphName{symbols::weather::wind, QLatin1StringView{"status/weather-windy"}},
+    GlyphName{symbols::weather::drizzle, QLatin1StringView{"status/weather-showers-scattered"}},
+    GlyphName{symbols::weather::rain, QLatin1StringView{"status/weather-showers"}},
+    GlyphName{symbols::weather::heavyRain, QLatin1StringView{"status/weather-heavy-rain"}},
+    GlyphName{symbols::weather::sunRain, QLatin1StringView{"status/weather-showers"}},
+    GlyphName{symbols::weather::moonRain, QLatin1StringView{"status/weather-showers"}},
+    GlyphName{symbols::weather::sleet, QLatin1StringView{"status/weather-sleet"}},
+    GlyphName{symbols::weather::hail, QLatin1StringView{"status/weather-hail"}},
+    GlyphName{symbols::weather::snow, QLatin1StringView{"status/weather-snow-cloud"}},
+    GlyphName{symbols::weather::snowflake, QLatin1StringView{"status/weather-snow"}},
+    GlyphName{symbols::weather::windSnow, QLatin1StringView{"status/weather-snow-cloud"}},
+    GlyphName{symbols::weather::frost, QLatin1StringView{"status/weather-snow"}},
+    GlyphName{symbols::weather::bolt, QLatin1StringView{"status/weather-storm"}},
+    GlyphName{symbols::weather::boltRain, QLatin1StringView{"status/weather-storm-rain"}},
+    GlyphName{symbols::weather::sunBolt, QLatin1StringView{"status/weather-storm"}},
+    GlyphName{symbols::weather::moonBolt, QLatin1StringView{"status/weather-storm"}},
+    GlyphName{symbols::weather::tropicalStorm, QLatin1StringView{"status/weather-tornado"}},
+    GlyphName{symbols::weather::hurricane, QLatin1StringView{"status/weather-tornado"}},
 };
 
 constexpr int imageCacheKiB = 512;

@@ -2,6 +2,7 @@
 
 #include "island/ContentView.h"
 #include "views/PlainText.h"
+#include "views/WeatherColor.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -132,7 +133,7 @@ void setCharge(HUDFace &face, const HUDContent &hud, const QColor &ordinary)
     face.accent = face.level <= lowBattery ? lowRed : ordinary;
 }
 
-void setBattery(HUDFace &face, const HUDContent &hud)
+void setBattery(HUDFace &face, const HUDContent &hud, const HUDLook &look)
 {
     const bool charging = face.symbol.contains(QLatin1StringView("bolt"));
     face.layout = HUDLayout::Battery;
@@ -140,6 +141,12 @@ void setBattery(HUDFace &face, const HUDContent &hud)
     setCharge(face, hud, charging ? green : content);
     if (charging)
         face.accent = green;
+    if (face.subtitle.isEmpty() && !face.figures.isEmpty())
+        face.accessibleText = Words::tr("%1, %2").arg(face.title, face.figures);
+    if (look.hideBatteryLabel)
+        face.title.clear();
+    if (look.hideBatteryPercentage)
+        face.figures.clear();
 }
 
 void setMessage(HUDFace &face, const HUDContent &hud)
@@ -148,6 +155,8 @@ void setMessage(HUDFace &face, const HUDContent &hud)
     face.symbolSize = messageSymbol;
     if (hud.type == HUDContent::HUDType::Bluetooth)
         setCharge(face, hud, green);
+    if (hud.type == HUDContent::HUDType::Weather)
+        face.accent = weatherColor(face.symbol);
 }
 
 } // namespace
@@ -171,7 +180,7 @@ HUDFace hudFace(const HUDContent &hud, const HUDLook &look, const QColor &accent
         setBrightness(face, hud, look);
         break;
     case HUDContent::HUDType::Battery:
-        setBattery(face, hud);
+        setBattery(face, hud, look);
         break;
     default:
         setMessage(face, hud);

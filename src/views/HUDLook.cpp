@@ -15,6 +15,8 @@ HUDLook hudLook(const SettingsStore &settings)
                         .hideLabel = settings.displayHideLabel.get(),
                         .symbolSize = settings.displaySymbolSizeMode.get(),
                         .speed = settings.displayAnimationSpeed.get()},
+            .hideBatteryLabel = settings.hideBatteryLabel.get(),
+            .hideBatteryPercentage = settings.hideBatteryPercentage.get(),
             .displayStyle = settings.displayAppearanceStyle.get()};
 }
 

@@ -17,6 +17,8 @@ struct HUDLook {
     Level sound;
     HUDColorTheme soundTheme = HUDColorTheme::White;
     Level display;
+    bool hideBatteryLabel = false;
+    bool hideBatteryPercentage = false;
     HUDAppearanceStyle displayStyle = HUDAppearanceStyle::White;
 };
 

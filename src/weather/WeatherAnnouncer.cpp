@@ -20,4 +20,9 @@ void WeatherAnnouncer::announce(const WeatherData &weather)
     weatherHUDHasFired_ = true;
 }
 
+void WeatherAnnouncer::markSeen(const WeatherData &weather)
+{
+    lastWeatherHUDKey_ = weatherHUDKey(weather);
+}
+
 } // namespace quillmere

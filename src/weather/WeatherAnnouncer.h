@@ -24,6 +24,9 @@ public:
     /// Shows the weather HUD unless the user wants none or has seen this weather.
     void announce(const WeatherData &weather);
 
+    /// The user has seen this weather elsewhere.
+    void markSeen(const WeatherData &weather);
+
     /// A weather HUD has been shown in this run.
     bool hasFired() const { return weatherHUDHasFired_; }
 

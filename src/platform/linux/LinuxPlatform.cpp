@@ -51,6 +51,13 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
     , scriptRunner_(runLoop, scriptPlaces())
     , mediaRemote_(runLoop, notificationCenter_, httpClient_, sessionBus(bus))
     , messageSocketServer_(runLoop)
+    , powerSources_(runLoop)
+    , lowPowerMode_(runLoop)
+    , userNotifications_(sessionBus(bus))
+    , systemSound_(runLoop)
+    , locationManager_(runLoop)
+    , geocoder_(scriptRunner_)
+    , reachability_(runLoop)
     , services_{runLoop,
                 notificationCenter_,
                 userDefaults_,
@@ -74,6 +81,15 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
                 mediaRemote_,
                 messageSocketServer_,
                 userFiles_,
+                powerSources_,
+                lowPowerMode_,
+                hostStatistics_,
+                userNotifications_,
+                systemSound_,
+                locationManager_,
+                geocoder_,
+                keychain_,
+                reachability_,
                 bus.statePublisher(),
                 bus.remoteControl()}
 {

@@ -3,6 +3,8 @@
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
 #include "platform/linux/WindowSystem.h"
+#include "platform/linux/alerts/CanberraSound.h"
+#include "platform/linux/alerts/DesktopNotifications.h"
 #include "platform/linux/appearance/DesktopAppearance.h"
 #include "platform/linux/appearance/FeedbackdHaptics.h"
 #include "platform/linux/audio/PulseAudioHardware.h"
@@ -13,10 +15,17 @@
 #include "platform/linux/desktop/FolderCloudStore.h"
 #include "platform/linux/desktop/LinuxUserFiles.h"
 #include "platform/linux/display/LinuxDisplayBrightness.h"
+#include "platform/linux/keyring/SecretKeychain.h"
+#include "platform/linux/location/GeoClueLocationManager.h"
+#include "platform/linux/location/HelperGeocoder.h"
 #include "platform/linux/media/MprisMediaRemote.h"
 #include "platform/linux/net/QtHttpClient.h"
+#include "platform/linux/net/RouteReachability.h"
+#include "platform/linux/power/PowerProfiles.h"
+#include "platform/linux/power/UPowerSources.h"
 #include "platform/linux/scripts/ProcessScriptRunner.h"
 #include "platform/linux/sockets/UnixMessageServer.h"
+#include "platform/linux/stats/ProcStatistics.h"
 #include "platform/linux/tray/TrayStatusItem.h"
 
 namespace quillmere {
@@ -56,6 +65,15 @@ private:
     MprisMediaRemote mediaRemote_;
     UnixMessageServer messageSocketServer_;
     LinuxUserFiles userFiles_;
+    UPowerSources powerSources_;
+    PowerProfiles lowPowerMode_;
+    ProcStatistics hostStatistics_;
+    DesktopNotifications userNotifications_;
+    CanberraSound systemSound_;
+    GeoClueLocationManager locationManager_;
+    HelperGeocoder geocoder_;
+    SecretKeychain keychain_;
+    RouteReachability reachability_;
     Platform services_;
 };
 
