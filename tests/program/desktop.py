@@ -177,19 +177,32 @@ class PrivateDesktop:
         self.run("xwallpaper", "--no-randr", "--maximize", str(path))
 
     def _start_bus(self):
+        self.env["DBUS_SESSION_BUS_ADDRESS"] = self._spawn_bus("session", self.dir / "run" / "bus")
+
+    def start_system_bus(self):
+        """Once; the program's own finds none before."""
+        if not (self.dir / "system.conf").exists():
+            self._spawn_bus("system", self.dir / "run" / "system_bus")
+
+    def start_notification_daemon(self):
+        self.spawn(["dunst"], "dunst.log")
+        owned = ["dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/org/freedesktop/DBus",
+                 "org.freedesktop.DBus.NameHasOwner", "string:org.freedesktop.Notifications"]  # fmt: skip
+        wait_until(lambda: "true" in self.run(*owned), what="dunst")
+
+    def _spawn_bus(self, kind, path):
         # No service directories: nothing is started behind our back.
-        socket_path = self.dir / "run" / "bus"
-        config = self.dir / "session.conf"
+        config = self.dir / f"{kind}.conf"
         config.write_text(
             '<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"'
             ' "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">'
-            f"<busconfig><type>session</type><keep_umask/><listen>unix:path={socket_path}</listen>"
+            f"<busconfig><type>{kind}</type><keep_umask/><listen>unix:path={path}</listen>"
             '<auth>EXTERNAL</auth><policy context="default"><allow send_destination="*" eavesdrop="true"/>'
             '<allow eavesdrop="true"/><allow own="*"/></policy></busconfig>'
         )
-        self.spawn(["dbus-daemon", f"--config-file={config}", "--nofork", "--nopidfile", "--nosyslog"], "bus.log")
-        self.env["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={socket_path}"
-        wait_until(socket_path.exists, what="the session bus")
+        self.spawn(["dbus-daemon", f"--config-file={config}", "--nofork", "--nopidfile", "--nosyslog"], f"{kind}.log")
+        wait_until(path.exists, what=f"the {kind} bus")
+        return f"unix:path={path}"
 
     def _end(self):
         if hasattr(self, "screen"):

@@ -98,6 +98,13 @@ class Island:
     def wait_until_collapsed(self, timeout=6.0):
         wait_until(lambda: not self.hud() and self.get("Presentation") == "collapsed", timeout, "the collapsed island")
 
+    def type_place(self, name, latitude, longitude, time_zone="Europe/London"):
+        """As if the user had typed it for the weather."""
+        local = self.config / "local.json"
+        values = json.loads(local.read_text()) if local.exists() else {}
+        values["weatherPlace"] = {"name": name, "latitude": latitude, "longitude": longitude, "timeZone": time_zone}
+        self.write_file(local, json.dumps(values))
+
     def watch(self):
         return Watcher(self)
 

@@ -65,7 +65,7 @@ class PresentationTest(IslandTest):
 
     def test_volume_while_browsing(self):
         self.open()
-        self.turn_to("fileTray", 7)
+        self.turn_to("fileTray", 21)
         with self.island.watch() as watcher:
             self.desktop.set_volume(41)
             self.island.wait_for_hud(0.41)
@@ -73,7 +73,7 @@ class PresentationTest(IslandTest):
             self.assertGreater(self.island.bar(self.desktop.primary, 206), 50)
             wait_until(lambda: not self.island.hud(), what="the end of the HUD")
             self.assertEqual(watcher.changes("Presentation") + watcher.changes("Page"), [])
-        self.turn_to("main", -7)
+        self.turn_to("main", -21)
 
     def test_brightness(self):
         with self.island.watch() as watcher:

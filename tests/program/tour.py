@@ -14,10 +14,16 @@ from desktop import PipeWireDesktop, PrivateDesktop, end_process, wait_until
 from drag import Drag
 from island import Island, is_black
 from players import Bus, make_track, start_mpv
+from power import Battery
 from wayland import WaylandDesktop
+from weather import WeatherServers, forecast
 
 STRIP = 300  # logical units of the screen's top that a screenshot shows
-SETTINGS = {"autoCollapseDelay": 0.7, "showFileTray": True, "idleActivityMostRecent": True, "enableClaudeCode": True}
+PAGES = ("main", "weather", "system", "fileTray")
+SETTINGS = {
+    "autoCollapseDelay": 0.7, "showFileTray": True, "idleActivityMostRecent": True, "enableClaudeCode": True,
+    "batteryHUDDuration": 2.0,
+}  # fmt: skip
 
 
 class Album:
@@ -70,6 +76,10 @@ class Tour:
     def open(self):
         self.press(0, 16)
         self.island.wait_for("Presentation", "expanded")
+
+    def turn_to(self, page):
+        self.press((PAGES.index(page) - (len(PAGES) - 1) / 2) * 14, 206)
+        self.island.wait_for("Page", page)
 
     # -- the stops ------------------------------------------------------------------------------
 
@@ -149,13 +159,10 @@ class Tour:
         self.settled("browsing-volume")
         wait_until(lambda: not self.island.hud(), what="the end of the HUD")
         self.settled("browsing")
-        self.press(7, 206)
-        time.sleep(0.1)
+        self.turn_to("fileTray")
         self.shoot("turning-the-page")
-        self.island.wait_for("Page", "fileTray")
         self.settled("tray-empty")
-        self.press(-7, 206)
-        self.island.wait_for("Page", "main")
+        self.turn_to("main")
         self.settled("main-again")
         self.press(240, 40)
         self.settled("outputs")
@@ -167,6 +174,59 @@ class Tour:
         self.press(266, 28)  # its close button
         self.settled("outputs-closed")
         self.leave()
+
+    def weather(self, servers):
+        """Nobody knows the place, one is typed, the weather comes; then other weather far away."""
+        self.open()
+        self.turn_to("weather")
+        self.settled("weather-without-a-place")
+        self.press(0, 120)
+        time.sleep(0.5)
+        for text, name in (("Qwx", "no-place"), ("Lis", "places")):
+            self.desktop.run("xdotool", "type", "--delay", "30", text)
+            time.sleep(1.2)
+            self.shoot(f"weather-{name}")
+            if name == "no-place":
+                self.desktop.run("xdotool", "key", "BackSpace", "BackSpace", "BackSpace")
+        self.desktop.run("xdotool", "key", "Return")
+        wait_until(lambda: self.island.get("Weather"), what="the weather")
+        self.settled("weather")
+        self.turn_to("main")
+        self.leave()
+        servers.answer = forecast(-25.6, 75)
+        self.island.type_place("Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch", 53.22, -4.2)
+        wait_until(lambda: self.island.hud().get("type") == "weather", what="the HUD of the weather")
+        self.settled("weather-hud")
+        self.island.wait_until_collapsed(timeout=8)
+        self.settled("weather-wings")
+        self.open()
+        self.turn_to("weather")
+        self.settled("weather-long-name")
+        self.turn_to("main")
+        self.leave()
+
+    def system(self):
+        self.open()
+        self.turn_to("system")
+        time.sleep(3.5)
+        self.shoot("system")
+        self.turn_to("main")
+        self.leave()
+
+    def battery(self, battery):
+        """Plugged in and out, down to one warning and no second, armed again by the charger."""
+        for percent, plugged_in, name in (
+            (22, True, "charging"), (100, True, None), (21, False, "on-battery"), (10, False, "low-battery"),
+            (9, False, None), (9, True, "charging-again"), (8, False, "on-battery-again"), (7, False, "low-again"),
+        ):  # fmt: skip
+            battery.set(percent, plugged_in)
+            if name is None:
+                time.sleep(1)
+                continue
+            wait_until(lambda: self.island.hud().get("type") == "battery", 8, name)
+            self.settled(name)
+            self.island.wait_until_collapsed(timeout=8)
+        self.shoot("low-battery-notification", height=982)
 
     def assistant(self, assistant):
         """Its dot never stands still while it works, so nothing here waits for that."""
@@ -264,7 +324,7 @@ class Tour:
         self.leave()
         self.open()
         self.settled("dashboard-again")
-        self.press(7, 206)
+        self.turn_to("fileTray")
         self.settled("tray-with-a-file")
         self.leave()
 
@@ -320,6 +380,9 @@ def visit(album, build, look, scale, kind=PrivateDesktop):
         desktop = stack.enter_context(kind(scale, look))
         backlight = Backlight(desktop)
         assistant = Assistant(desktop, build)
+        servers = stack.enter_context(WeatherServers(desktop))
+        battery = Battery(desktop)
+        desktop.start_notification_daemon()
         island = stack.enter_context(Island(desktop, build, SETTINGS))
         tour = Tour(album, desktop, island, look)
         island.wait_out_mute()
@@ -330,7 +393,10 @@ def visit(album, build, look, scale, kind=PrivateDesktop):
             tour.second_monitor()
             tour.dashboard()
             tour.brightness(backlight)
+            tour.weather(servers)
+            tour.system()
             if (look, scale) in (("dark", 1), ("light", 2)):
+                tour.battery(battery)
                 tour.headset()
                 tour.activity()
                 tour.media()

@@ -2,6 +2,8 @@
 
 #include "app/AudioOutputPicker.h"
 #include "app/FileTray.h"
+#include "app/SystemLoad.h"
+#include "app/WeatherReports.h"
 #include "claude/ClaudeCodeMonitor.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
@@ -13,12 +15,16 @@
 #include "support/FakeAudioHardware.h"
 #include "support/FakeGlobalEvents.h"
 #include "support/FakeHaptics.h"
+#include "support/FakeHostStatistics.h"
+#include "support/FakeHttpClient.h"
 #include "support/FakeMedia.h"
 #include "support/FakeMessageSocketServer.h"
 #include "support/FakePanelWindow.h"
 #include "support/FakeScreens.h"
 #include "support/FakeUserFiles.h"
+#include "support/FakeWeather.h"
 #include "support/ManualRunLoop.h"
+#include "support/MemoryUserDefaults.h"
 #include "support/SettingsFixture.h"
 #include "views/DashboardModel.h"
 #include "views/IslandModel.h"
@@ -38,6 +44,7 @@ struct IslandFixture {
         };
         QObject::connect(&claudeCode, &ClaudeCodeMonitor::isActiveChanged, &wings,
                          [this] { wings.setAssistantActive(claudeCode.isActive()); });
+        weather.isOnShow = [this] { return content.shows(IslandPage::Weather); };
         panel.displaysDidChange();
         runLoop.advance(std::chrono::seconds(4));
     }
@@ -68,7 +75,18 @@ struct IslandFixture {
     FakeMessageSocketServer socket{runLoop};
     FakeUserFiles files;
     ClaudeCodeMonitor claudeCode{runLoop, logger, socket, files, {.home = dir.path()}};
-    DashboardModel dashboard{runLoop, settings, hud, content, picker, tray, claudeCode, appearance};
+    FakeLocationManager location;
+    FakeGeocoder geocoder{runLoop};
+    FakeKeychain keychain{runLoop};
+    FakeReachability reachability;
+    FakeHttpClient http;
+    MemoryUserDefaults local;
+    WeatherReports weather{
+        {runLoop, location, geocoder, http, keychain, reachability}, local, settings, hud};
+    FakeHostStatistics host;
+    SystemLoad load{runLoop, host, settings, hud};
+    DashboardModel dashboard{
+        runLoop, settings, hud, content, {picker, tray, claudeCode, weather, load}, appearance};
 };
 
 } // namespace quillmere

@@ -1,6 +1,7 @@
 #include "app/AppEvents.h"
 #include "app/FileTray.h"
 #include "app/MediaPlayback.h"
+#include "app/PowerAlerts.h"
 #include "app/QuillmereApp.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
@@ -8,6 +9,7 @@
 #include "platform/RemoteControl.h"
 #include "platform/StatePublisher.h"
 #include "platform/linux/desktop/LinuxUserFiles.h"
+#include "support/FakeAlerts.h"
 #include "support/FakeAppearance.h"
 #include "support/FakeAudioHardware.h"
 #include "support/FakeBluetoothBatteries.h"
@@ -15,13 +17,16 @@
 #include "support/FakeDragPasteboard.h"
 #include "support/FakeGlobalEvents.h"
 #include "support/FakeHaptics.h"
+#include "support/FakeHostStatistics.h"
 #include "support/FakeHttpClient.h"
 #include "support/FakeLoginItem.h"
 #include "support/FakeMedia.h"
 #include "support/FakeMessageSocketServer.h"
 #include "support/FakePanelWindow.h"
+#include "support/FakePowerSources.h"
 #include "support/FakeScreens.h"
 #include "support/FakeStatusItem.h"
+#include "support/FakeWeather.h"
 #include "support/ManualRunLoop.h"
 #include "support/MemoryCloudStore.h"
 #include "support/MemoryUserDefaults.h"
@@ -106,11 +111,21 @@ protected:
     FakeMediaRemote mediaRemote;
     FakeMessageSocketServer socket{runLoop};
     LinuxUserFiles files;
-    Platform platform{runLoop,      notifications, defaults,   local,        cloud,
-                      loginItem,    screens,       window,     globalEvents, dragPasteboard,
-                      applications, audio,         streams,    batteries,    display,
-                      haptics,      appearance,    statusItem, http,         scripts,
-                      mediaRemote,  socket,        files,      state,        remote};
+    FakePowerSources power;
+    FakeLowPowerMode lowPowerMode;
+    FakeHostStatistics host;
+    FakeUserNotifications alerts;
+    FakeSystemSound sound;
+    FakeLocationManager location;
+    FakeGeocoder geocoder{runLoop};
+    FakeKeychain keychain{runLoop};
+    FakeReachability reachability;
+    Platform platform{
+        runLoop,  notifications, defaults,       local,        cloud, loginItem, screens,
+        window,   globalEvents,  dragPasteboard, applications, audio, streams,   batteries,
+        display,  haptics,       appearance,     statusItem,   http,  scripts,   mediaRemote,
+        socket,   files,         power,          lowPowerMode, host,  alerts,    sound,
+        location, geocoder,      keychain,       reachability, state, remote};
     QTemporaryDir library;
     AudioDeviceID speakers = 0;
     int terminations = 0;
@@ -133,6 +148,83 @@ TEST_F(AppDelegateTest, AVolumeChangeBecomesAHUDForItsDuration)
     EXPECT_FALSE(showsHUD());
     EXPECT_TRUE(state.hud().isEmpty());
     EXPECT_EQ(state.values.value(QStringLiteral("Frame")).toRect(), QRect(437, 0, 126, 32));
+}
+
+TEST_F(AppDelegateTest, PowerIsToldOfAsFarAsTheSettingsWantIt)
+{
+    struct Case {
+        const char *setting; ///< that is off
+        const char *hud;     ///< of the charger that goes, then of the low battery
+        const char *lowHud;
+        std::size_t sounds, notifications;
+    };
+    const Case cases[] = {
+        {"", "On Battery", "Low Battery", 1, 1},
+        {"showBatteryHUD", "", "", 1, 1},
+        {"warnOnLowBattery", "On Battery", "", 0, 0},
+        {"playSoundOnLowBattery", "On Battery", "Low Battery", 0, 1},
+        {"notifyOnLowPowerMode", "On Battery", "Low Battery", 1, 0},
+    };
+    for (const Case &test : cases) {
+        SCOPED_TRACE(test.setting);
+        defaults.values.clear();
+        if (*test.setting)
+            defaults.values.insert(QString::fromLatin1(test.setting), false);
+        sound.played.clear();
+        alerts.shown.clear();
+        power.setAvailable(false);
+        power.set(BatteryStatus{.level = 11, .isCharging = true, .isPluggedIn = true});
+        launch();
+        power.setAvailable(true);
+        runLoop.advance(10s);
+        EXPECT_FALSE(showsHUD()) << "what is found is no event";
+        power.set(BatteryStatus{.level = 11});
+        runLoop.settle();
+        EXPECT_EQ(state.hud().value(QStringLiteral("title")).toString(),
+                  QString::fromLatin1(test.hud));
+        runLoop.advance(10s);
+        power.set(BatteryStatus{.level = 10});
+        runLoop.settle();
+        EXPECT_EQ(state.hud().value(QStringLiteral("title")).toString(),
+                  QString::fromLatin1(test.lowHud));
+        EXPECT_EQ(sound.played.size(), test.sounds);
+        EXPECT_EQ(alerts.shown.size(), test.notifications);
+        app->terminate();
+        app.reset();
+        EXPECT_FALSE(power.isWatched());
+    }
+}
+
+TEST_F(AppDelegateTest, ChargersAndLowPowerModeHaveTheirWords)
+{
+    launch();
+    EXPECT_EQ(chargerHUD(84, true, true).title, QStringLiteral("Charging"));
+    EXPECT_EQ(chargerHUD(100, false, true).title, QStringLiteral("Plugged In"));
+    lowPowerMode.set(true);
+    lowPowerMode.set(false);
+    ASSERT_EQ(alerts.shown.size(), 2U);
+    EXPECT_EQ(alerts.shown[0].title, QStringLiteral("Low Power Mode On"));
+    EXPECT_EQ(alerts.shown[1].identifier, alerts.shown[0].identifier);
+}
+
+TEST_F(AppDelegateTest, TheLoadIsSampledWhileTheSettingIsOn)
+{
+    host.physical = 1ULL << 34;
+    host.used = 1ULL << 33;
+    launch(3s);
+    const auto published = [this] {
+        return state.values.value(QStringLiteral("SystemStats")).toMap();
+    };
+    runLoop.advance(4s);
+    EXPECT_EQ(published().value(QStringLiteral("memoryUsage")), 50.0);
+    EXPECT_EQ(published().value(QStringLiteral("memoryTotalGB")), 16.0);
+    app->settings().showSystemMonitor.set(false);
+    host.used = 1ULL << 32;
+    runLoop.advance(10s);
+    EXPECT_EQ(published().value(QStringLiteral("memoryUsage")), 50.0);
+    app->settings().showSystemMonitor.set(true);
+    runLoop.advance(4s);
+    EXPECT_EQ(published().value(QStringLiteral("memoryUsage")), 25.0);
 }
 
 TEST_F(AppDelegateTest, WhatPlaysIsPublishedAndTakesCommands)
@@ -326,6 +418,7 @@ TEST_F(AppDelegateTest, ABrightnessStepIsShownAndTheDriftGoesBy)
 
 TEST_F(AppDelegateTest, AHeadsetIsAnnouncedOnceAndItsChargeJoinsLater)
 {
+    defaults.values.insert(QStringLiteral("warnOnLowBluetoothBattery"), false); // watches as well
     const auto headset = audio.add({.mainVolume = 0.5F,
                                     .facts = {.name = QStringLiteral("AirPods Pro"),
                                               .isBluetooth = true,

@@ -2,6 +2,7 @@
 
 #include "platform/Symbols.h"
 #include "support/LogCapture.h"
+#include "weather/WeatherSymbols.h"
 
 #include <QDir>
 #include <QFile>
@@ -50,6 +51,16 @@ TEST(GlyphsTest, EverySymbolInUseDrawsAsItself)
         const auto bits = QByteArray::fromRawData(reinterpret_cast<const char *>(image.constBits()),
                                                   image.sizeInBytes());
         EXPECT_TRUE(seen.insert(QByteArray(bits.constData(), bits.size())).second) << name.data();
+    }
+}
+
+TEST(GlyphsTest, EveryWeatherHasItsGlyph)
+{
+    Glyphs glyphs;
+    const QImage placeholder = glyphs.image(QStringLiteral("no.such.symbol"), 40, Qt::white);
+    for (const QLatin1StringView name : symbols::weather::all) {
+        EXPECT_TRUE(glyphs.contains(QString(name))) << name.data();
+        EXPECT_NE(glyphs.image(QString(name), 40, Qt::white), placeholder) << name.data();
     }
 }
 

@@ -1,0 +1,83 @@
+"""The weather from loopback servers: what is shown, what is announced, and what bad answers do."""
+
+import json
+import time
+import unittest
+
+from case import DesktopTest
+from desktop import wait_until
+from weather import WeatherServers, forecast
+
+LISBON = {"name": "Lisbon", "latitude": 38.71667, "longitude": -9.13333, "timeZone": "Europe/Lisbon"}
+
+BAD_ANSWERS = [
+    (200, b"<html>not JSON</html>"),
+    (200, b"[]"),
+    (200, b'{"current": {"temperature_2m": "warm", "weather_code": 2}}'),
+    (200, b'{"current": {"temperature_2m": 21.5}}'),
+    (200, b'{"current": ' + b"[" * 100_000),
+    (200, b" " * 30_000_000),
+    (503, b"busy"),
+    (429, json.dumps(forecast()).encode()),
+]
+
+
+class WeatherTest(DesktopTest):
+    def start(self, place=None):
+        self.servers = self.enterContext(WeatherServers(self.desktop))
+        if place:
+            local = self.desktop.dir / "config" / "quillmere" / "local.json"
+            local.parent.mkdir(parents=True)
+            local.write_text(json.dumps({"weatherPlace": place}))
+        self.island = self.start_island()
+
+    def weather(self):
+        return self.island.get("Weather")
+
+    def test_a_typed_place_is_where_we_are(self):
+        self.start(place=LISBON)
+        wait_until(self.weather, what="the weather")
+        record = self.weather()
+        self.assertEqual(
+            (record["locationName"], record["conditionLabel"], record["conditionIcon"], record["source"]),
+            ("Lisbon", "Partly Cloudy", "cloud.sun.fill", "openMeteo"),
+        )
+        self.assertEqual([hour["hour"] for hour in record["hourlyForecast"]], list(range(14, 22)))
+        self.assertEqual(
+            self.servers.requests,
+            ["/v1/forecast?latitude=38.71667&longitude=-9.13333&current=temperature_2m,weather_code,"
+             "apparent_temperature,relative_humidity_2m,wind_speed_10m,visibility&daily=temperature_2m_max,"
+             "temperature_2m_min&hourly=temperature_2m,weather_code&forecast_hours=8&temperature_unit=celsius"
+             "&timezone=auto"],
+        )  # fmt: skip
+        self.island.wait_out_mute()
+        self.assertEqual(self.island.hud(), {}, "not announced in the launch mute")
+
+        self.servers.answer = forecast(-5.6, 75)
+        self.island.type_place("Elsewhere", 60.5, -9.1)
+        hud = wait_until(lambda: self.island.hud(), what="the announcement")
+        self.assertEqual((hud["type"], hud["title"]), ("weather", "-6° Heavy Snow"))
+        self.assertTrue(hud["subtitle"].startswith("Elsewhere"), hud)
+
+    def test_bad_answers_keep_the_record(self):
+        self.start(place=LISBON)
+        record = wait_until(self.weather, what="the weather")
+        for number, answer in enumerate(BAD_ANSWERS):
+            asked = len(self.servers.requests)
+            self.servers.answer = answer
+            self.island.type_place("Lisbon", 10.0 + number, -9.1)
+            wait_until(lambda: len(self.servers.requests) > asked, what=f"request {number}")
+        time.sleep(1)
+        self.assertEqual(self.weather(), record)
+        self.servers.answer = forecast(3)
+        self.island.type_place("Lisbon", 38.7, -9.1)
+        wait_until(lambda: self.weather()["temperature"] == 3, what="better weather")
+
+    def test_nobody_knows_where_we_are(self):
+        self.start()
+        self.island.wait_out_mute()
+        self.assertEqual((self.weather(), self.servers.requests), ({}, []))
+
+
+if __name__ == "__main__":
+    unittest.main()
