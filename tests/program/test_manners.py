@@ -7,6 +7,7 @@ import unittest
 from case import DesktopTest
 from desktop import end_process, wait_until
 from island import is_black
+from weather import WeatherServers
 
 
 class MannersTest(DesktopTest):
@@ -17,6 +18,9 @@ class MannersTest(DesktopTest):
 
     def focused(self):
         return self.desktop.run("xdotool", "getactivewindow", "getwindowname", check=False)
+
+    def typed_in(self):
+        return self.desktop.run("xdotool", "getwindowfocus", "getwindowname", check=False)
 
     def count(self, event):
         return len(re.findall(rf"^{event}", self.desktop.log("xev.log"), re.M))
@@ -54,6 +58,49 @@ class MannersTest(DesktopTest):
         self.assertIn("neighbour", self.focused())
         self.assertEqual(self.count("FocusOut"), 0)
         self.assertNotIn("quillmere", self.desktop.run("xprop", "-root", "_NET_CLIENT_LIST").lower())
+
+    def test_typing_borrows_the_keyboard(self):
+        self.start_neighbour()
+        with WeatherServers(self.desktop) as servers:
+            island = self.start_island({"autoCollapseDelay": 0.5})
+            island.wait_out_mute()
+            middle = self.desktop.primary.width // 2
+
+            def type_in_island(text):
+                self.click(middle, 16)
+                island.wait_for("Presentation", "expanded")
+                if island.get("Page") != "weather":
+                    self.desktop.screen.until_still((middle - 150, 190, 300, 30))
+                    self.click(middle, 206)  # of three dots the second
+                    island.wait_for("Page", "weather")
+                self.desktop.screen.until_still((middle - 300, 0, 600, 200))
+                self.click(middle, 120)
+                self.desktop.run("xdotool", "type", "--delay", "30", text)
+
+            def asked_for(text):
+                return [request for request in servers.requests if f"name={text}" in request]
+
+            keys = self.count("KeyPress")
+            type_in_island("Lisb")
+            wait_until(lambda: asked_for("Lisb"), 5, "the search")
+            self.assertEqual(self.count("KeyPress"), keys)
+            time.sleep(1)
+            self.assertEqual(island.get("Presentation"), "expanded", "typing holds it open")
+            self.desktop.run("xdotool", "key", "Escape")
+            wait_until(lambda: "neighbour" in self.typed_in(), 3, "the keyboard to go back")
+            self.desktop.run("xdotool", "key", "b")
+            wait_until(lambda: self.count("KeyPress") == keys + 1, 3, "the neighbour's key")
+            self.desktop.run("xdotool", "mousemove", str(middle), "600")
+            island.wait_until_collapsed()
+
+            type_in_island("Lisbo")
+            wait_until(lambda: asked_for("Lisbo"), 5, "the second search")
+            self.click(middle - 500, 300)  # the user turns to the neighbour
+            self.desktop.run("xdotool", "key", "c")
+            wait_until(lambda: self.count("KeyPress") == keys + 2, 3, "the key after the click")
+            island.wait_until_collapsed()
+            self.desktop.run("xdotool", "key", "d")
+            wait_until(lambda: self.count("KeyPress") == keys + 3, 3, "the key after the collapse")
 
     def test_opening_and_closing_take_nothing_from_the_neighbour(self):
         self.start_neighbour()
