@@ -5,9 +5,10 @@ import subprocess
 import time
 from pathlib import Path
 
+from bus import BUS_NAME, Bus
 from desktop import wait_until
-from island import BUS_NAME, Island
-from players import Bus, ScriptedPlayer, make_cover, make_track, start_mpv
+from island import Island
+from players import ScriptedPlayer, make_cover, make_track, start_mpv
 
 HOSTILE_PLAYER = Path(__file__).resolve().parent.parent / "tests" / "support" / "hostile_player.py"
 

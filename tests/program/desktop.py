@@ -125,24 +125,13 @@ class PrivateDesktop:
         )
 
     def _start_display(self):
-        ours, theirs = os.pipe()
         width = self.secondary.x + self.secondary.width
         height = max(self.primary.height, self.secondary.height)
         # No reset when the last client leaves: the monitors set below have to stay.
-        command = ["Xvfb", "-displayfd", str(theirs), "-screen", "0", f"{width}x{height}x24"]
-        command += ["+extension", "Composite", "-nolisten", "tcp", "-noreset"]
-        self._display = self.spawn(command, "xvfb.log", pass_fds=[theirs])
-        os.close(theirs)
-        number = b""
-        while not number.endswith(b"\n"):
-            if not select.select([ours], [], [], 15)[0]:
-                raise RuntimeError("Xvfb did not start: " + self.log("xvfb.log"))
-            read = os.read(ours, 64)
-            if not read:
-                raise RuntimeError("Xvfb ended: " + self.log("xvfb.log"))
-            number += read
-        os.close(ours)
-        self.env["DISPLAY"] = ":" + number.decode().strip()
+        command = ["Xvfb", "-screen", "0", f"{width}x{height}x24", "+extension", "Composite"]
+        command += ["-nolisten", "tcp", "-noreset", "-displayfd"]
+        self._display, number = self._spawn_telling(command, "xvfb.log")
+        self.env["DISPLAY"] = ":" + number
         self.screen = Screen(self.env["DISPLAY"])
 
         self.plug(self.primary)
@@ -200,8 +189,9 @@ class PrivateDesktop:
             '<auth>EXTERNAL</auth><policy context="default"><allow send_destination="*" eavesdrop="true"/>'
             '<allow eavesdrop="true"/><allow own="*"/></policy></busconfig>'
         )
-        self.spawn(["dbus-daemon", f"--config-file={config}", "--nofork", "--nopidfile", "--nosyslog"], f"{kind}.log")
-        wait_until(path.exists, what=f"the {kind} bus")
+        # It tells its address once it listens; its socket is there before.
+        command = ["dbus-daemon", f"--config-file={config}", "--nofork", "--nopidfile", "--nosyslog"]
+        self._spawn_telling([*command, "--print-address"], f"{kind}.log")
         return f"unix:path={path}"
 
     def _end(self):
@@ -231,6 +221,21 @@ class PrivateDesktop:
             )
         self._processes.append(process)
         return process
+
+    def _spawn_telling(self, command, log):
+        """Spawns a server that is ready when it has written a line to the descriptor whose number ends
+        its command line; returns both."""
+        ours, theirs = os.pipe()
+        with open(ours, "rb", buffering=0) as pipe:
+            process = self.spawn([*command, str(theirs)], log, pass_fds=[theirs])
+            os.close(theirs)
+            told = b""
+            while not told.endswith(b"\n"):
+                read = pipe.read(256) if select.select([pipe], [], [], 30)[0] else b""
+                if not read:
+                    raise RuntimeError(f"{command[0]} did not start: {self.log(log)}")
+                told += read
+        return process, told.decode().strip()
 
     def run(self, *command, text=None, check=True, timeout=20):
         """Runs a command to its end and returns what it printed."""

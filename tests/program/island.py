@@ -5,13 +5,12 @@ import os
 import re
 import signal
 import subprocess
-import threading
 import time
 from pathlib import Path
 
+from bus import BUS_NAME, Watcher
 from desktop import end_process, wait_until
 
-BUS_NAME = "com.quillmere.Quillmere"
 LAUNCH_MUTE = 3.0  # seconds after launch in which nothing is shown
 
 # Lines that no healthy run prints.
@@ -106,7 +105,7 @@ class Island:
         self.write_file(local, json.dumps(values))
 
     def watch(self):
-        return Watcher(self)
+        return Watcher(self.desktop)
 
     def output(self):
         return self.desktop.log(self._stderr)
@@ -217,42 +216,3 @@ class Island:
             run = run + 1 if is_white(pixel) else 0
             longest = max(longest, run)
         return longest / scale
-
-
-class Watcher:
-    """Every change of the island's properties with the time it came at, in order. Works before the
-    program is there, and sees it come and go."""
-
-    def __init__(self, island):
-        self._changes = []
-        self._ready = threading.Event()
-        self._process = island.desktop.spawn(
-            ["gdbus", "monitor", "--session", "--dest", BUS_NAME], "monitor.log", stdout=subprocess.PIPE, text=True
-        )
-        self._thread = threading.Thread(target=self._read, daemon=True)
-        self._thread.start()
-        if not self._ready.wait(10):
-            raise AssertionError("gdbus monitor did not start")
-
-    def __enter__(self):
-        return self
-
-    def __exit__(self, *_):
-        end_process(self._process)
-        self._thread.join()
-        self._process.stdout.close()
-
-    def _read(self):
-        for line in self._process.stdout:
-            if " is owned by " in line:  # before that it cannot tell whose signals are meant
-                self._ready.set()
-            if "PropertiesChanged" in line and "com.quillmere.Island" in line:
-                self._changes.append((time.monotonic(), line.strip()))
-
-    def changes(self, name):
-        """(time, text) of the changes that tell of the property `name`."""
-        return [change for change in list(self._changes) if f"'{name}':" in change[1]]
-
-    def huds(self):
-        """(time, text) of every HUD that came; its going is no HUD."""
-        return [c for c in self.changes("CurrentHUD") if not re.search(r"'CurrentHUD': <@a\{sv\} \{\}>", c[1])]

@@ -9,8 +9,8 @@ from pathlib import Path
 
 from gi.repository import Gio, GLib
 
+from bus import Bus
 from desktop import end_process, wait_until
-from island import BUS_NAME
 
 MPRIS = "org.mpris.MediaPlayer2"
 PLAYER = MPRIS + ".Player"
@@ -21,39 +21,6 @@ _MICROSECONDS = 1e6
 # mpv's own scripts would open a window; without a sound device it plays at the same pace.
 _MPV = ["mpv", "--no-config", "--load-scripts=no", "--no-video", "--ao=null", "--no-terminal"]
 _MPV += ["--script=/usr/lib/mpv-mpris/mpris.so"]
-
-
-class Bus:
-    """A connection of ours to the desktop's session bus; a question takes well below a millisecond."""
-
-    def __init__(self, desktop):
-        flags = Gio.DBusConnectionFlags
-        self.connection = Gio.DBusConnection.new_for_address_sync(
-            desktop.env["DBUS_SESSION_BUS_ADDRESS"],
-            flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None,
-        )  # fmt: skip
-        self.connection.set_exit_on_close(False)
-
-    def call(self, name, path, interface, method, arguments=None):
-        answer = self.connection.call_sync(
-            name, path, interface, method, arguments, None, Gio.DBusCallFlags.NO_AUTO_START, 5000, None
-        )
-        return answer.unpack()
-
-    def get(self, name, path, interface, member):
-        return self.call(name, path, _PROPERTIES, "Get", GLib.Variant("(ss)", (interface, member)))[0]
-
-    def owns(self, name):
-        daemon = "org.freedesktop.DBus"
-        return self.call(daemon, "/", daemon, "NameHasOwner", GLib.Variant("(s)", (name,)))[0]
-
-    def now_playing(self):
-        """The record that the island publishes; empty if there is none."""
-        return self.get(BUS_NAME, "/com/quillmere/Quillmere", "com.quillmere.Island", "NowPlaying")
-
-    def ping(self):
-        """Of the island's main thread."""
-        self.call(BUS_NAME, "/", "org.freedesktop.DBus.Peer", "Ping")
 
 
 def make_track(folder, title, artist, seconds, cover=None, size=300):
@@ -116,15 +83,10 @@ def start_mpv(desktop, bus, *arguments):
     names = f"{MPRIS}.mpv.instance{process.pid}", f"{MPRIS}.mpv"
 
     def name():
-        own = [n for n in names if bus.owns(n) and _process_of(bus, n) == process.pid]
+        own = [n for n in names if bus.owns(n) and bus.process_of(n) == process.pid]
         return own[0] if own else None
 
     return Player(bus, process, wait_until(name, what="mpv on the bus: " + desktop.log("mpv.log")))
-
-
-def _process_of(bus, name):
-    daemon = "org.freedesktop.DBus"
-    return bus.call(daemon, "/", daemon, "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))[0]
 
 
 _PAGE = """<title>Page</title><audio id="audio" src="track.flac" loop></audio><script>

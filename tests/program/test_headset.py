@@ -17,7 +17,7 @@ class HeadsetTest(DesktopTest):
             self.desktop.set_volume(40)  # of the headset: the program hears this server
             island.wait_for_hud(0.4)
             island.wait_until_collapsed()
-            told = [text for _, text in watcher.huds() if "'bluetooth'" in text]
+            told = [hud for _, hud in watcher.huds() if hud["type"] == "bluetooth"]
             self.assertEqual(told, [], "the headset was there before")
         self.assertEqual(island.get("Activities"), [])
 

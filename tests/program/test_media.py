@@ -5,10 +5,11 @@ import re
 import time
 import unittest
 
+from bus import Bus
 from case import IslandTest
 from desktop import wait_until
 from island import Island
-from players import Bus, ScriptedPlayer, chromium_playing, make_track, start_mpv
+from players import ScriptedPlayer, chromium_playing, make_track, start_mpv
 
 IDLE = 1.5  # seconds
 

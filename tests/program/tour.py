@@ -10,10 +10,11 @@ from pathlib import Path
 
 from assistant import Assistant
 from backlight import Backlight
+from bus import Bus
 from desktop import PipeWireDesktop, PrivateDesktop, end_process, wait_until
 from drag import Drag
 from island import Island, is_black
-from players import Bus, make_track, start_mpv
+from players import make_track, start_mpv
 from power import Battery
 from wayland import WaylandDesktop
 from weather import WeatherServers, forecast
