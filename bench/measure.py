@@ -113,7 +113,7 @@ class Measurement:
         with self.running({"autoCollapseDelay": 60, "islandAppearance": "classic"}) as (desktop, island):
             camera, intervals = Camera(desktop), []
             for number in range(2 * cycles):
-                frames = camera.film(island.toggle())
+                frames = camera.film(island.toggle)
                 if number < 2:
                     continue  # they load the pages
                 for before, after in zip(frames[1:], frames[2:]):

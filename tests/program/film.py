@@ -4,7 +4,7 @@ import time
 from typing import NamedTuple
 
 _ROW = 15.5  # logical units below the top edge: there even the pill is as wide as it gets
-_BLACK = 8
+_DARK = 40  # the island with the cards in it; around it even the deepest shadow is lighter
 
 
 class Frame(NamedTuple):
@@ -16,11 +16,11 @@ class Frame(NamedTuple):
     bottom: int
 
 
-def _black(data):
-    """The first black pixel and the one after the last; an empty range where there is none."""
+def _dark(data):
+    """The first dark pixel and the one after the last; an empty range where there is none."""
     pixels = range(0, len(data), 4)
-    black = [i // 4 for i in pixels if max(data[i : i + 3]) <= _BLACK]
-    return (black[0], black[-1] + 1) if black else (0, 0)
+    dark = [i // 4 for i in pixels if max(data[i : i + 3]) <= _DARK]
+    return (dark[0], dark[-1] + 1) if dark else (0, 0)
 
 
 class Camera:
@@ -35,14 +35,23 @@ class Camera:
         self._column = (middle, monitor.y, 1, 300 * scale)
 
     def _shot(self):
-        return self._screen.raw(*self._row), self._screen.raw(*self._column)
+        """Row and column of one picture: the screen may be painted anew between two looks at it."""
+        row = self._screen.raw(*self._row)
+        while True:
+            column, again = self._screen.raw(*self._column), self._screen.raw(*self._row)
+            if again == row:
+                return row, column
+            row = again
 
-    def film(self, process, still=0.4, timeout=5.0, pause=0.0003):
-        """Every different picture from now until none has come for `still` seconds after the first change.
+    def film(self, action, still=0.4, timeout=5.0, pause=0.0003):
+        """The picture before `action` with the time it began at, then every different one until none has come for
+        `still` seconds after the first change.
 
-        `process` is what sets the island in motion: it has to have ended well by then.
+        `action` starts the process that sets the island in motion; it has to have ended well by then.
         """
-        shots = [(time.monotonic(), self._shot())]
+        before = self._shot()
+        shots = [(time.monotonic(), before)]
+        process = action()
         end = shots[0][0] + timeout
         while len(shots) == 1 or time.monotonic() - shots[-1][0] < still:
             if time.monotonic() > end:
@@ -56,8 +65,8 @@ class Camera:
         return [self._frame(at, *shot) for at, shot in shots]
 
     def _frame(self, at, row, column):
-        first, end = _black(row)
-        return Frame(at, self._half - first, end - self._half, _black(column)[1])
+        first, end = _dark(row)
+        return Frame(at, self._half - first, end - self._half, _dark(column)[1])
 
 
 def reversals(values, tolerance=1):

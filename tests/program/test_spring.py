@@ -1,13 +1,23 @@
 """The opening and closing spring, picture by picture."""
 
+import math
 import time
 import unittest
 
 from case import IslandTest
 from film import Camera, reversals
 
-PEAK_SPEED = 9.0  # of its whole way, a second: what a spring of 0.32 s and damping 0.82 never exceeds
-FRAME = 1 / 60
+RESPONSE, DAMPING = 0.32, 0.82  # of the spring; a second, and as a share of what would not swing over
+LEAST_PICTURES = 3  # on the way between a tenth and nine tenths of it, however busy the machine is
+
+
+def farthest(elapsed):
+    """What share of its way a spring has reached at most so long after it was let go."""
+    frequency = 2 * math.pi / RESPONSE
+    damped = frequency * math.sqrt(1 - DAMPING**2)
+    elapsed = min(elapsed, math.pi / damped)  # there it turns
+    swing = math.cos(damped * elapsed) + DAMPING * frequency / damped * math.sin(damped * elapsed)
+    return 1 - math.exp(-DAMPING * frequency * elapsed) * swing
 
 
 class SpringTest(IslandTest):
@@ -17,7 +27,7 @@ class SpringTest(IslandTest):
         camera = Camera(self.desktop)
         for expected in ("expanded", "collapsed"):
             with self.subTest(expected):
-                frames = camera.film(self.island.toggle())
+                frames = camera.film(self.island.toggle)
                 self.island.wait_for("Presentation", expected)
                 self.check(frames)
                 time.sleep(0.2)
@@ -28,12 +38,15 @@ class SpringTest(IslandTest):
         for edge in ("left", "bottom"):
             course = [getattr(frame, edge) for frame in frames]
             self.assertLessEqual(reversals(course), 1, f"{edge}: {course}")
-            way = abs(course[-1] - course[0])
-            self.assertGreater(way, 100 * self.scale)
-            for before, after in zip(frames, frames[1:]):
-                step = abs(getattr(after, edge) - getattr(before, edge))
-                passed = after.at - before.at + 2 * FRAME  # shown up to a frame later than it is true
-                self.assertLessEqual(step, way * PEAK_SPEED * passed, f"{edge} jumps: {before} {after}")
+            way = course[-1] - course[0]
+            self.assertGreater(abs(way), 100 * self.scale)
+            shares = [(place - course[0]) / way for place in course]
+            # A busy machine shows the island late, but never where it is not yet.
+            for frame, share in zip(frames, shares):
+                early = share - farthest(frame.at - frames[0].at)
+                self.assertLessEqual(early * abs(way), 2 * self.scale, f"{edge} ahead of its time: {frame} {frames[0]}")
+            seen = sum(0.1 < share < 0.9 for share in shares)
+            self.assertGreaterEqual(seen, LEAST_PICTURES, f"{edge} jumps: {course}")
 
 
 class SharpSpringTest(SpringTest):
