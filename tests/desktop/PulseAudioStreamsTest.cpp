@@ -53,8 +53,10 @@ struct PulseAudioStreamsTest : testing::TestWithParam<bool> {
     {
         qunsetenv("QT_NO_GLIB");
         GetParam() ? server.startPipeWire() : server.start({QStringLiteral("speakers")});
-        if (GetParam())
+        if (GetParam()) {
             server.loadSink(QStringLiteral("speakers"));
+            PulseServer::waitForDefault(QStringLiteral("speakers"));
+        }
         hardware.emplace(runLoop);
         streams.emplace(runLoop, *hardware);
     }
@@ -95,10 +97,11 @@ TEST_P(PulseAudioStreamsTest, TellWhoPlays)
     const auto stream = server.pactl(QStringLiteral("list short sink-inputs")).section(u'\t', 0, 0);
     server.pactl(QStringLiteral("set-sink-mute speakers 1"));
     EXPECT_TRUE(isPlaying("com.google.Chrome"));
+    // PipeWire tells each of its clients in its own time.
     server.pactl(QStringLiteral("set-sink-input-mute %1 1").arg(stream));
-    EXPECT_FALSE(isPlaying("com.google.Chrome"));
+    EXPECT_TRUE(eventually([this] { return !isPlaying("com.google.Chrome"); }));
     server.pactl(QStringLiteral("set-sink-input-mute %1 0").arg(stream));
-    EXPECT_TRUE(isPlaying("com.google.Chrome"));
+    EXPECT_TRUE(eventually([this] { return isPlaying("com.google.Chrome"); }));
     chromium.setPaused(true);
     EXPECT_TRUE(eventually([this] { return !isPlaying("com.google.Chrome"); }));
 }

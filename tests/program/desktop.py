@@ -340,11 +340,17 @@ class PipeWireDesktop(PrivateDesktop):
         wait_until(lambda: self.run("pw-cli", "info", "0", check=False), what="PipeWire")
         self.spawn(["wireplumber"], "wireplumber.log")
         self.spawn(["pipewire-pulse"], "pipewire-pulse.log")
-        wait_until(lambda: "PipeWire" in self.run("pactl", "info", check=False), what="the sound server")
+        self._wait_for_default("auto_null")
         self.pactl("load-module", "module-null-sink", "sink_name=speakers")
-        wait_until(lambda: "speakers" in self.pactl("list", "short", "sinks"), what="the speakers")
         self.pactl("set-default-sink", "speakers")
+        self._wait_for_default("speakers")
         self.set_volume(50)
+
+    def _wait_for_default(self, sink):
+        """Until the session manager has chosen it: the server names one of its own before that, but cannot
+        change it, and has nothing to play to."""
+        command = "pw-metadata", "0", "default.audio.sink"
+        wait_until(lambda: f'"{sink}"' in self.run(*command, check=False), what=f"{sink} as the default sink")
 
 
 class SoundConsole:

@@ -68,9 +68,17 @@ public:
         });
         launch(sessionManager_, QStringLiteral("wireplumber"), {});
         launch(process_, QStringLiteral("pipewire-pulse"), {});
-        waitFor([] {
-            return run(QStringLiteral("get-default-sink").split(u' ')).output ==
-                   QStringLiteral("auto_null");
+        waitForDefault(QStringLiteral("auto_null"));
+    }
+
+    /// Until PipeWire's session manager has chosen this sink: the server names one of its own
+    /// before that, but cannot change it, and has nothing to play to.
+    static void waitForDefault(const QString &sink)
+    {
+        waitFor([&sink] {
+            return run({QStringLiteral("0"), QStringLiteral("default.audio.sink")},
+                       QStringLiteral("pw-metadata"))
+                .output.contains(u'"' + sink + u'"');
         });
     }
 
