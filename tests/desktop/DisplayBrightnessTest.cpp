@@ -70,7 +70,8 @@ protected:
     LinuxDisplayBrightness::Places placesWithHelper(const QByteArray &script)
     {
         write(u"i2c-3"_s, {});
-        write(u"helper"_s, "#!/bin/sh\n" + script);
+        // A new file each time: the shell of the one before may still be reading.
+        replace(u"helper"_s, "#!/bin/sh\n" + script);
         ::chmod(qPrintable(path(u"helper"_s)), 0700);
         return {.devicesRoot = directory.path(), .ddcHelper = path(u"helper"_s)};
     }
