@@ -3,6 +3,7 @@
 #include "platform/linux/window/X11PanelWindow.h"
 #include "support/Eventually.h"
 #include "support/LogCapture.h"
+#include "support/X11Inspector.h"
 #include "support/XServer.h"
 #include "views/DropTarget.h"
 
@@ -29,6 +30,12 @@ public:
         static char *argv[] = {name, nullptr};
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
         application.emplace(argc, argv);
+        // A window that is there before its manager is framed and moved in the middle of a drag.
+        X11Inspector inspector;
+        if (!eventually([&] {
+                return !inspector.property(inspector.root(), "_NET_SUPPORTING_WM_CHECK").empty();
+            }))
+            throw std::runtime_error("no window manager");
     }
     void TearDown() override
     {

@@ -18,6 +18,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace quillmere {
 namespace {
 
@@ -85,6 +87,12 @@ protected:
         panel.reset();
         for (const auto window : windows)
             inspector.closeWindow(window);
+        // What the window manager restacks now would bring the next test's panel to the front.
+        EXPECT_TRUE(eventually([this] {
+            auto known = inspector.property(inspector.root(), "_NET_CLIENT_LIST");
+            known.push_back(inspector.activeWindow());
+            return std::ranges::find_first_of(known, windows) == known.end();
+        }));
     }
 
     void show()
