@@ -80,9 +80,10 @@ protected:
 TEST_P(RunLoopTest, DelayedActionsRunInDeadlineOrderAndOnce)
 {
     std::vector<int> order;
-    const Task late = loop().after(30ms, [&] { order.push_back(3); });
+    // Far enough apart that a busy machine does not get between the lines.
+    const Task late = loop().after(400ms, [&] { order.push_back(3); });
     const Task early = loop().after(5ms, [&] { order.push_back(1); });
-    const Task middle = loop().after(15ms, [&] { order.push_back(2); });
+    const Task middle = loop().after(200ms, [&] { order.push_back(2); });
     ASSERT_TRUE(subject->runUntil([&] { return order.size() == 3; }));
     EXPECT_EQ(order, (std::vector{1, 2, 3}));
     bool later = false;
@@ -110,6 +111,7 @@ TEST_P(RunLoopTest, DestroyedReplacedAndSelfCancelledTasksStayQuiet)
     Task second;
     const Task first = loop().after(10ms, [&] { second.cancel(); });
     second = loop().after(10ms, [&] { ++sameMoment; });
+    ASSERT_TRUE(subject->runUntil([&] { return repeated == 2; }));
     bool end = false;
     const Task last = loop().after(50ms, [&] { end = true; });
     ASSERT_TRUE(subject->runUntil([&] { return end; }));
