@@ -91,11 +91,12 @@ class MediaTest(IslandTest):
         self.assert_near(player, 100)
 
         self.island.ctl("action", "play-pause")
+        # An answer that was under way still says that it plays, for a moment.
+        wait_until(lambda: self.playerctl("status") == "Paused", what="the player to pause")
         self.wait_for(title="First Light", isPlaying=False)
         frozen = self.playhead(100)
         time.sleep(0.6)
         self.assertEqual(self.playhead(100), frozen)
-        wait_until(lambda: self.playerctl("status") == "Paused", what="the player to pause")
         self.assert_near(player, 100)
 
         player.seek_to(30)
