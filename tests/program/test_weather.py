@@ -1,11 +1,13 @@
 """The weather from loopback servers: what is shown, what is announced, and what bad answers do."""
 
 import json
+import re
 import time
 import unittest
 
 from case import DesktopTest
-from desktop import wait_until
+from desktop import PrivateDesktop, wait_until
+from location import LocationService, can_mount
 from weather import WeatherServers, forecast
 
 LISBON = {"name": "Lisbon", "latitude": 38.71667, "longitude": -9.13333, "timeZone": "Europe/Lisbon"}
@@ -77,6 +79,25 @@ class WeatherTest(DesktopTest):
         self.start()
         self.island.wait_out_mute()
         self.assertEqual((self.weather(), self.servers.requests), ({}, []))
+
+    @unittest.skipUnless(can_mount(), "GeoClue cannot be configured without a mount")
+    def test_the_machine_knows_where_it_is(self):
+        for allowed, place in ((True, "London"), (False, None)):
+            with self.subTest(allowed=allowed), PrivateDesktop() as self.desktop:
+                with LocationService(self.desktop, 51.5074, -0.1278, allowed) as service:
+                    self.start()
+                    if allowed:
+                        record = wait_until(self.weather, 20, "the weather")
+                        self.assertEqual(record["locationName"], place)
+                        # What is only accurate to a town GeoClue blurs within it.
+                        asked = re.search(r"latitude=([\d.-]+)&longitude=([\d.-]+)&", self.servers.requests[0])
+                        self.assertAlmostEqual(float(asked[1]), 51.5, delta=0.3)
+                        self.assertAlmostEqual(float(asked[2]), -0.13, delta=0.3)
+                    else:
+                        denied = "[WeatherService] Authorization changed: 2"
+                        wait_until(lambda: denied in self.island.output(), 20, "the refusal")
+                        self.assertEqual((self.weather(), service.requests), ({}, 0))
+                    self.island.stop()
 
 
 if __name__ == "__main__":

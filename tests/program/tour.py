@@ -79,6 +79,9 @@ class Tour:
         self.island.wait_for("Presentation", "expanded")
 
     def turn_to(self, page):
+        # The dots take no press before the island has unfolded.
+        middle, scale = self.desktop.primary.width // 2, self.desktop.scale
+        self.desktop.screen.until_still((middle - 50 * scale, 190 * scale, 100 * scale, 30 * scale), quiet=0.2)
         self.press((PAGES.index(page) - (len(PAGES) - 1) / 2) * 14, 206)
         self.island.wait_for("Page", page)
 
