@@ -22,6 +22,8 @@ from desktop import PrivateDesktop, end_process  # noqa: E402
 from film import Camera  # noqa: E402
 from island import Island, is_black  # noqa: E402
 from media import Media  # noqa: E402
+from power import Battery  # noqa: E402
+from weather import WeatherServers  # noqa: E402
 
 
 def percentile(values, part):
@@ -36,6 +38,15 @@ def spread(values, digits=1):
 
 def milliseconds(seconds):
     return seconds * 1000
+
+
+def quiet_half(desktop):
+    """A battery, and weather that has come."""
+    Battery(desktop)
+    WeatherServers(desktop).start()
+    local = desktop.dir / "config" / "quillmere" / "local.json"
+    local.parent.mkdir(parents=True)
+    local.write_text('{"weatherPlace": {"name": "Lisbon", "latitude": 38.7, "longitude": -9.1}}')
 
 
 class Measurement:
@@ -177,11 +188,13 @@ class Measurement:
     # -- idle -----------------------------------------------------------------------------------
 
     def idle(self, seconds):
-        self.rest(seconds, "without a brightness")
-        self.rest(seconds, "with a backlight", Backlight)
+        still = {"showSystemMonitor": False}
+        self.rest(seconds, "without a brightness", still)
+        self.rest(seconds, "with a backlight", still, Backlight)
+        self.rest(seconds, "with battery, load and weather", {}, quiet_half)
 
-    def rest(self, seconds, what, hardware=lambda desktop: None):
-        with self.running(hardware=hardware) as (_, island):
+    def rest(self, seconds, what, defaults, hardware=lambda desktop: None):
+        with self.running(defaults, hardware) as (_, island):
             time.sleep(5)
             self.row(f"memory, collapsed, before the first HUD, {what}", self.memory(island))
             begun = time.monotonic()

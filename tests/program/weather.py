@@ -39,7 +39,7 @@ PLACES = {
 
 
 class WeatherServers:
-    """Use as a context manager, before the program starts. `answer` is the forecast's: an object, or (status, bytes),
+    """Use as a context manager, or start() it, before the program starts. `answer` is the forecast's: an object, or (status, bytes),
     or a number of seconds to keep it waiting."""
 
     def __init__(self, desktop):
@@ -73,8 +73,11 @@ class WeatherServers:
         for name in ("OPEN_METEO", "PLACE_SEARCH", "WEATHERKIT"):
             desktop.env[f"QUILLMERE_{name}_URL"] = address
 
-    def __enter__(self):
+    def start(self):
         threading.Thread(target=self._server.serve_forever, daemon=True).start()
+
+    def __enter__(self):
+        self.start()
         return self
 
     def __exit__(self, *_):
