@@ -12,8 +12,9 @@ set(layer_monitors   log settings platform events)
 set(layer_nowplaying island log settings platform events)
 set(layer_claude     log platform)
 set(layer_weather    island log settings platform events)
-set(layer_app        nowplaying weather island monitors claude log settings platform events)
-set(layer_views      app weather island claude log settings platform events)
+set(layer_tools      island log settings platform events)
+set(layer_app        nowplaying weather tools island monitors claude log settings platform events)
+set(layer_views      app weather tools island claude log settings platform events)
 set(layer_linux      platform events)
 
 # What a layer of logic may take from outside: no bus, no widgets, no scene graph.

@@ -47,7 +47,15 @@ inline constexpr QLatin1StringView playCircle{"play.circle.fill"};
 
 inline constexpr QLatin1StringView arrowDownCircle{"arrow.down.circle.fill"};
 
+inline constexpr QLatin1StringView timer{"timer"};
+inline constexpr QLatin1StringView hourglass{"hourglass"};
+inline constexpr QLatin1StringView stopwatch{"stopwatch"};
+inline constexpr QLatin1StringView stopCircle{"stop.circle"};
+inline constexpr QLatin1StringView xmarkCircle{"xmark.circle"};
+inline constexpr QLatin1StringView capsule{"capsule"};
+
 inline constexpr std::array all{
+    timer,           hourglass,    stopwatch,    stopCircle,     xmarkCircle,      capsule,
     arrowDownCircle, chevronLeft,  chevronRight, xmark,          checkmark,        doc,
     speakerSlash,    speakerWave1, speakerWave2, speakerWave3,   airpods,          headphones,
     hifispeaker,     car,          tv,           sunMax,         battery0,         battery25,

@@ -83,6 +83,12 @@ constexpr std::array glyphNames{
     GlyphName{symbols::weather::moonBolt, QLatin1StringView{"status/weather-storm"}},
     GlyphName{symbols::weather::tropicalStorm, QLatin1StringView{"status/weather-tornado"}},
     GlyphName{symbols::weather::hurricane, QLatin1StringView{"status/weather-tornado"}},
+    GlyphName{symbols::timer, QLatin1StringView{"status/timer"}},
+    GlyphName{symbols::hourglass, QLatin1StringView{"status/hourglass"}},
+    GlyphName{symbols::stopwatch, QLatin1StringView{"status/stopwatch"}},
+    GlyphName{symbols::stopCircle, QLatin1StringView{"status/stop-circle"}},
+    GlyphName{symbols::xmarkCircle, QLatin1StringView{"status/xmark-circle"}},
+    GlyphName{symbols::capsule, QLatin1StringView{"status/capsule"}},
 };
 
 constexpr int imageCacheKiB = 512;
