@@ -29,6 +29,13 @@ QDBusMessage actionMessage(const QString &action, const QVariantList &parameter)
     return message;
 }
 
+QDBusMessage performMessage(const QString &intent, const QVariantMap &parameters)
+{
+    auto message = quillmereCall(bus::shortcutsInterface, QLatin1StringView("Perform"));
+    message << intent << parameters;
+    return message;
+}
+
 QDBusMessage getMessage(const QString &property)
 {
     auto message = quillmereCall(bus::propertiesInterface, QLatin1StringView("Get"));

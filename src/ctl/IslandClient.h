@@ -10,6 +10,7 @@ namespace quillmere {
 
 /// The messages to a running Quillmere. None of them starts one.
 QDBusMessage actionMessage(const QString &action, const QVariantList &parameter);
+QDBusMessage performMessage(const QString &intent, const QVariantMap &parameters);
 QDBusMessage getMessage(const QString &property);
 QDBusMessage getAllMessage();
 

@@ -44,19 +44,27 @@ QString helpText()
     return tr("Talks to the Quillmere that runs in this session.\n"
               "\n"
               "  quillmerectl action NAME [PARAMETER]  ask for an action\n"
+              "  quillmerectl perform INTENT [KEY=VALUE...]\n"
+              "                                        do it and print the answer\n"
               "  quillmerectl get [PROPERTY]           print a property, or all, as JSON\n"
               "  quillmerectl watch [PROPERTY]         print it now and whenever it changes,\n"
               "                                        one JSON object a line\n"
               "  quillmerectl --help | --version\n"
               "\n"
-              "Actions: show-island, toggle-island, quit.\n"
+              "Actions: show-island, toggle-island, start-pomodoro, stop-pomodoro,\n"
+              "skip-pomodoro, start-countdown [MINUTES], stop-countdown, quit.\n"
+              "Intents: StartPomodoroIntent, StopPomodoroIntent, SkipPomodoroIntent,\n"
+              "StartCountdownTimerIntent [minutes=NUMBER], StopCountdownTimerIntent,\n"
+              "ToggleIslandIntent.\n"
               "Properties: %1.\n"
               "\n"
               "Exits with 1 if Quillmere is not running or says no, with 2 if called wrongly.")
         .arg(properties.join(QStringLiteral(", ")));
 }
 
-int askOnce(const QDBusMessage &message, const std::function<QVariant(const QVariantList &)> &shown)
+/// Prints what `shown` makes of the answer, if there is one to print.
+int askOnce(const QDBusMessage &message,
+            const std::function<QByteArray(const QVariantList &)> &shown)
 {
     const auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
@@ -64,7 +72,7 @@ int askOnce(const QDBusMessage &message, const std::function<QVariant(const QVar
     const BusReply reply = ask(bus, message);
     if (!reply)
         return fail(Failed, describe(reply.error()));
-    if (shown && !print(toJsonLine(shown(*reply))))
+    if (shown && !print(shown(*reply)))
         return Failed;
     return Done;
 }
@@ -79,12 +87,28 @@ int action(const QStringList &arguments)
     return askOnce(actionMessage(arguments.at(0), parameter), {});
 }
 
+int perform(const QStringList &arguments)
+{
+    if (arguments.isEmpty())
+        return refuseUsage(tr("perform takes an intent"));
+    QVariantMap parameters;
+    for (const QString &argument : arguments.mid(1)) {
+        const qsizetype equals = argument.indexOf(u'=');
+        if (equals < 1)
+            return refuseUsage(tr("\"%1\" is no KEY=VALUE").arg(argument));
+        parameters.insert(argument.left(equals), toParameter(argument.mid(equals + 1)));
+    }
+    return askOnce(performMessage(arguments.first(), parameters),
+                   [](const QVariantList &answer) { return answer.value(0).toString().toUtf8(); });
+}
+
 int get(const QString &property)
 {
     if (property.isEmpty())
-        return askOnce(getAllMessage(), &toProperties);
+        return askOnce(getAllMessage(),
+                       [](const QVariantList &answer) { return toJsonLine(toProperties(answer)); });
     return askOnce(getMessage(property),
-                   [](const QVariantList &answer) { return answer.value(0); });
+                   [](const QVariantList &answer) { return toJsonLine(answer.value(0)); });
 }
 
 int watch(const QString &property)
@@ -121,6 +145,8 @@ int run(const QStringList &arguments)
     const QStringList rest = arguments.mid(1);
     if (command == QLatin1StringView("action"))
         return action(rest);
+    if (command == QLatin1StringView("perform"))
+        return perform(rest);
     if (command == QLatin1StringView("get"))
         return readProperty(rest, &get);
     if (command == QLatin1StringView("watch"))

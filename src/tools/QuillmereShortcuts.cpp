@@ -92,7 +92,7 @@ tl::expected<QString, QString> QuillmereShortcuts::perform(const QString &intent
 {
     const ShortcutIntent *found = findIntent(intent);
     if (!found)
-        return tl::unexpected(Words::tr("there is no intent \"%1\"").arg(intent));
+        return tl::unexpected(Words::tr("there is no intent \"%1\"").arg(quotable(intent)));
     return perform(*found, parameters);
 }
 
@@ -101,7 +101,7 @@ tl::expected<void, QString> QuillmereShortcuts::activateAction(const QString &ac
 {
     const ShortcutIntent *intent = findIntent(action);
     if (!intent)
-        return tl::unexpected(Words::tr("there is no action \"%1\"").arg(action));
+        return tl::unexpected(Words::tr("there is no action \"%1\"").arg(quotable(action)));
     QVariantMap parameters;
     if (!parameter.isEmpty())
         parameters.insert(QStringLiteral("minutes"), parameter.first());
@@ -117,7 +117,7 @@ void QuillmereShortcuts::run(const QString &id)
 {
     const auto match = parseMatchId(id);
     if (!match) {
-        qWarning("[Shortcuts] There is no shortcut \"%s\"", qUtf8Printable(id));
+        qWarning("[Shortcuts] There is no shortcut \"%s\"", qUtf8Printable(quotable(id)));
         return;
     }
     QVariantList parameter;

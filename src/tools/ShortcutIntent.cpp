@@ -15,6 +15,7 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(ShortcutIntent)
 };
 
+constexpr qsizetype longestQuote = 64;
 constexpr QLatin1StringView minutesKey{"minutes"};
 
 constexpr std::array intents{
@@ -143,12 +144,18 @@ QString minutesDescription()
     return Words::tr("Length of the countdown in minutes.");
 }
 
+QString quotable(const QString &text)
+{
+    return text.left(longestQuote);
+}
+
 tl::expected<std::optional<int>, QString> minutesOf(const ShortcutIntent &intent,
                                                     const QVariantMap &parameters)
 {
     for (const QString &key : parameters.keys()) {
         if (!intent.takesMinutes || key != minutesKey)
-            return tl::unexpected(Words::tr("%1 has no parameter \"%2\"").arg(intent.name, key));
+            return tl::unexpected(
+                Words::tr("%1 has no parameter \"%2\"").arg(intent.name, quotable(key)));
     }
     const auto given = parameters.constFind(minutesKey);
     if (given == parameters.cend())

@@ -48,6 +48,9 @@ inline bool isMinutes(qint64 minutes)
     return minutes >= fewestMinutes && minutes <= mostMinutes;
 }
 
+/// A text of someone else's, as much of it as an answer repeats.
+QString quotable(const QString &text);
+
 /// The number of minutes among `parameters`; absent inside when they do not tell. An error says
 /// what is wrong with them, for the person who sent them.
 tl::expected<std::optional<int>, QString> minutesOf(const ShortcutIntent &intent,

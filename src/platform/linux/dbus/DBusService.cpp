@@ -34,7 +34,10 @@ DBusService::DBusService(RunLoop &runLoop, OpenBus openBus)
     : runLoop_(runLoop)
     , openBus_(std::move(openBus))
     , inbox_(runLoop)
-    , object_(inbox_)
+    , shortcuts_(runLoop)
+    , object_(inbox_, shortcuts_)
+    , searchProvider_(shortcuts_)
+    , runner_(shortcuts_)
     , state_(runLoop, object_)
 {
     state_.onChanged = [this](const QVariantMap &changed) { announce(changed); };
@@ -73,6 +76,9 @@ void DBusService::useBus(const QDBusConnection &connection)
     }
     connection_ = connection;
     connection_->registerObject(bus::objectPath, &object_, QDBusConnection::ExportAdaptors);
+    connection_->registerObject(bus::searchProviderPath, &searchProvider_,
+                                QDBusConnection::ExportAdaptors);
+    connection_->registerObject(bus::runnerPath, &runner_, QDBusConnection::ExportAdaptors);
     watchBus();
     instance_.emplace(*connection_);
     instance_->claim(request_, [this](SingleInstance::Claim claim) { finish(toRole(claim)); });

@@ -3,6 +3,9 @@
 #include "platform/linux/dbus/BusObject.h"
 #include "platform/linux/dbus/IslandState.h"
 #include "platform/linux/dbus/LaunchRequest.h"
+#include "platform/linux/dbus/PlasmaRunner.h"
+#include "platform/linux/dbus/SearchProvider.h"
+#include "platform/linux/dbus/ShortcutInbox.h"
 #include "platform/linux/dbus/SingleInstance.h"
 
 #include <QDBusConnection>
@@ -13,8 +16,8 @@
 
 namespace quillmere {
 
-/// Quillmere on the session bus: one instance per session, remote control, published state. Works
-/// without a bus as well; then nobody hears what is published. Main thread only.
+/// Quillmere on the session bus: one instance per session, remote control, shortcuts, published
+/// state. Works without a bus as well; then nobody hears what is published. Main thread only.
 class DBusService : public QObject
 {
     Q_OBJECT
@@ -42,6 +45,7 @@ public:
 
     RemoteControl &remoteControl() { return inbox_; }
     StatePublisher &statePublisher() { return state_; }
+    ShortcutInbox &shortcuts() { return shortcuts_; }
 
     /// The session bus, for what else is offered there; nothing before start() is done, without a
     /// bus, and after it has died.
@@ -58,7 +62,10 @@ private:
     RunLoop &runLoop_;
     OpenBus openBus_;
     RequestInbox inbox_;
+    ShortcutInbox shortcuts_;
     BusObject object_;
+    SearchProvider searchProvider_;
+    PlasmaRunner runner_;
     IslandState state_;
     std::optional<QDBusConnection> connection_;
     std::optional<SingleInstance> instance_;

@@ -86,8 +86,13 @@ RequestInbox::Outcome RequestInbox::activateAction(const QString &action,
     if (!std::ranges::all_of(parameter, isPlain))
         return invalid(QStringLiteral("the parameter is no plain value of a reasonable size"));
     return take([action, parameter](const RemoteRequests &handlers) -> Outcome {
-        if (handlers.activateAction && handlers.activateAction(action, parameter))
+        ActionOutcome outcome = false;
+        if (handlers.activateAction)
+            outcome = handlers.activateAction(action, parameter);
+        if (outcome)
             return {};
+        if (!outcome.reason.isEmpty())
+            return invalid(outcome.reason);
         return invalid(
             QStringLiteral("there is no action \"%1\" with %2 parameter")
                 .arg(action, parameter.isEmpty() ? QStringLiteral("no") : QStringLiteral("this")));
