@@ -1,4 +1,8 @@
+#include "tools/Timers.h"
+#include "island/HUDManager.h"
+#include "island/IslandDebugLogger.h"
 #include "support/FakeAlerts.h"
+#include "support/FakeShortcutPublisher.h"
 #include "support/ManualRunLoop.h"
 #include "support/SettingsFixture.h"
 #include "tools/CountdownTimerManager.h"
@@ -8,6 +12,8 @@
 #include "tools/WingTimer.h"
 
 #include <gmock/gmock.h>
+
+#include <QTemporaryDir>
 
 #include <cmath>
 #include <limits>
@@ -25,16 +31,16 @@ struct TimersTest : testing::Test, SettingsFixture {
     QStringList notified()
     {
         QStringList texts;
-        for (const auto &shown : std::exchange(notifications.shown, {}))
+        for (const auto &shown : std::exchange(alerts.shown, {}))
             texts << shown.title + u" | " + shown.body + (shown.playsSound ? u"" : u" silent");
         return texts;
     }
 
     ManualRunLoop runLoop;
-    FakeUserNotifications notifications;
+    FakeUserNotifications alerts;
     FakeSystemSound sound;
-    PomodoroManager pomodoro{runLoop, notifications};
-    CountdownTimerManager countdown{runLoop, notifications, sound};
+    PomodoroManager pomodoro{runLoop, alerts};
+    CountdownTimerManager countdown{runLoop, alerts, sound};
 };
 
 TEST_F(TimersTest, EveryFourthSessionEarnsALongBreakAndNoneStartsByItself)
@@ -53,7 +59,7 @@ TEST_F(TimersTest, EveryFourthSessionEarnsALongBreakAndNoneStartsByItself)
         runLoop.advance(1ns);
         ASSERT_EQ(pomodoro.state(), isLong ? State::LongBreak : State::ShortBreak) << session;
         EXPECT_EQ(pomodoro.timeRemaining(), isLong ? 900 : 300);
-        identifiers << notifications.shown.at(0).identifier;
+        identifiers << alerts.shown.at(0).identifier;
         EXPECT_THAT(
             notified(),
             ElementsAre(
@@ -248,6 +254,40 @@ TEST_F(TimersTest, TheWingShowsWhatEndsNextOnceASecond)
     EXPECT_EQ(fields.value(u"state"_s), u"working"_s);
     EXPECT_EQ(fields.value(u"mode"_s), u"countdown"_s);
     EXPECT_EQ(fields.value(u"timeRemaining"_s), 1490);
+}
+
+TEST_F(TimersTest, EndsAndDialogsBecomeHUDsAndLengthsFollowTheSettings)
+{
+    const QTemporaryDir folder;
+    IslandDebugLogger logger(runLoop, folder.path());
+    HUDManager huds(runLoop, settings, logger);
+    runLoop.advance(3s); // before that nothing is shown
+    FakeShortcutPublisher desktop;
+    settings.pomodoroWorkMinutes.set(1);
+    Timers timers({runLoop, alerts, sound, notifications, desktop}, settings, huds);
+    const auto shown = [&] { return huds.currentHUD() ? huds.currentHUD()->title : QString(); };
+    desktop.requests.run(u"start-pomodoro"_s);
+    EXPECT_EQ(shown(), u"Pomodoro started — 1 minute of focus."_s);
+    settings.pomodoroShortBreakMinutes.set(2);
+    runLoop.advance(60s);
+    EXPECT_EQ(shown(), u"Focus session complete"_s);
+    runLoop.advance(119s);
+    EXPECT_EQ(shown(), QString());
+    timers.isSuppressed = [] { return true; };
+    runLoop.advance(1s);
+    EXPECT_EQ(shown(), QString());
+    EXPECT_EQ(notified().size(), 2);
+    timers.isSuppressed = [] { return false; };
+    desktop.requests.run(u"start-countdown:1"_s);
+    runLoop.advance(61s);
+    EXPECT_EQ(shown(), u"Timer Complete"_s);
+    desktop.requests.run(u"toggle-island"_s);
+    EXPECT_EQ(shown(), u"Timer Complete"_s) << "the island's movement is the answer";
+    timers.pomodoro().startWork();
+    timers.countdown().start();
+    timers.stop();
+    runLoop.advance(1h);
+    EXPECT_EQ(notified().size(), 1);
 }
 
 TEST(TimerTextsTest, Times)
