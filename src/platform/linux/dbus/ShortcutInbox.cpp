@@ -50,7 +50,7 @@ void ShortcutInbox::answer(const QDBusContext &call,
                            std::function<Answer(const ShortcutRequests &requests)> work)
 {
     call.setDelayedReply(true);
-    const QDBusMessage question = call.message();
+    const QDBusMessage &question = call.message();
     const QDBusConnection bus = call.connection();
     const bool isTaken = take([question, bus, work = std::move(work)](const auto &requests) {
         bus.send(toMessage(question, work(requests)));
