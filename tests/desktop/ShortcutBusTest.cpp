@@ -1,3 +1,4 @@
+#include "app/AppEvents.h"
 #include "platform/NotificationCenter.h"
 #include "platform/linux/core/QtRunLoop.h"
 #include "platform/linux/dbus/BusNames.h"
@@ -104,6 +105,9 @@ TEST_F(ShortcutBusTest, EveryIntentAnswersAClientEvenOneThatCameEarly)
     launch(later, u"gdbus"_s, gdbus(bus::runnerPath, bus::runnerInterface, "Actions", {}));
     EXPECT_EQ(output(later), "(@a(sss) [],)");
     offerShortcuts();
+    int toggled = 0;
+    const Task observer =
+        notificationCenter.observe(events::islandTapped, [&](const QVariantMap &) { ++toggled; });
     EXPECT_EQ(output(early), "('No Pomodoro session is running.',)");
 
     const struct {
@@ -111,13 +115,18 @@ TEST_F(ShortcutBusTest, EveryIntentAnswersAClientEvenOneThatCameEarly)
         const char *parameters;
         const char *answer;
     } steps[] = {
+        {"SkipPomodoroIntent", "{}", "('No Pomodoro session is running.',)"},
         {"StartPomodoroIntent", "{}", "('Pomodoro started — 25 minutes of focus.',)"},
         {"SkipPomodoroIntent", "{}", "('Focus session skipped.',)"},
         {"SkipPomodoroIntent", "{}", "('Break skipped.',)"},
+        {"StartPomodoroIntent", "{}", "('Pomodoro started — 25 minutes of focus.',)"},
+        {"StopPomodoroIntent", "{}", "('Pomodoro stopped.',)"},
+        {"StopCountdownTimerIntent", "{}", "('No timer was running.',)"},
         {"StartCountdownTimerIntent", "{'minutes': <10>}",
          "('Countdown started — 10 minutes to go.',)"},
         {"StartCountdownTimerIntent", "{'minutes': <uint64 1>}",
          "('Countdown started — 1 minute to go.',)"},
+        {"StartCountdownTimerIntent", "{}", "('Countdown started — 1 minute to go.',)"},
         {"StopCountdownTimerIntent", "{}", "('Timer cancelled.',)"},
         {"ToggleIslandIntent", "{}", "('Toggled the island.',)"},
         {"StartCountdownTimerIntent", "{'minutes': <1441>}",
@@ -129,6 +138,8 @@ TEST_F(ShortcutBusTest, EveryIntentAnswersAClientEvenOneThatCameEarly)
     for (const auto &[intent, parameters, answer] : steps)
         EXPECT_THAT(run(u"gdbus"_s, perform(intent, parameters)), HasSubstr(answer)) << intent;
     EXPECT_FALSE(countdown.isRunning());
+    EXPECT_EQ(toggled, 1);
+    EXPECT_EQ(pomodoro.sessionsCompleted(), 1) << "a skipped session counts";
     EXPECT_THAT(run(u"gdbus"_s, gdbus(bus::objectPath, bus::shortcutsInterface, "List", {})),
                 HasSubstr("('SkipPomodoroIntent', 'Skip Pomodoro Phase', 'forward.fill')"));
     EXPECT_EQ(run(QStringLiteral(QUILLMERECTL),
