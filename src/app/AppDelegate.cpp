@@ -29,6 +29,7 @@
 #include "platform/StatusItem.h"
 #include "platform/Symbols.h"
 #include "settings/SettingsStore.h"
+#include "tools/Timers.h"
 
 #include <QDir>
 
@@ -125,6 +126,15 @@ void AppDelegate::createIsland()
         ClaudeCodeMonitor::Places{.home = QDir::homePath()});
     connect(claudeCode_.get(), &ClaudeCodeMonitor::isActiveChanged, this,
             [this] { wings_->setAssistantActive(claudeCode_->isActive()); });
+    timers_ =
+        std::make_unique<Timers>(TimerServices{.runLoop = platform_.runLoop,
+                                               .userNotifications = platform_.userNotifications,
+                                               .systemSound = platform_.systemSound,
+                                               .notificationCenter = platform_.notificationCenter,
+                                               .shortcutPublisher = platform_.shortcutPublisher},
+                                 settings_, hudManager_);
+    timers_->isSuppressed = [this] { return hudsAreSuppressed(); };
+    timers_->setOnShow([this] { showIsland(); });
     gestures_->onSkipMedia = [this](int step) {
         if (step > 0)
             media_->nextTrack();
@@ -147,7 +157,7 @@ void AppDelegate::createIsland()
                                                settings_, hudManager_);
     if (onIslandCreated)
         onIslandCreated({*floatingPanel_, *contentView_, *outputPicker_, *fileTray_, *media_,
-                         *claudeCode_, *weather_, *systemLoad_});
+                         *claudeCode_, *weather_, *systemLoad_, *timers_});
     floatingPanel_->displaysDidChange();
 }
 
@@ -352,6 +362,8 @@ void AppDelegate::applicationWillTerminate()
         claudeCode_->stop();
     if (media_)
         media_->stop();
+    if (timers_)
+        timers_->stop();
     hideFromScreenCaptureCancellable_.cancel();
     hideInMissionControlCancellable_.cancel();
     enableClaudeCodeCancellable_.cancel();

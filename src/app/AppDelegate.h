@@ -30,6 +30,7 @@ class MediaPlayback;
 class PowerAlerts;
 class SettingsStore;
 class SystemLoad;
+class Timers;
 class Updater;
 class VolumeMonitor;
 class WeatherReports;
@@ -45,6 +46,7 @@ struct Island {
     ClaudeCodeMonitor &claudeCode;
     WeatherReports &weather;
     SystemLoad &systemLoad;
+    Timers &timers;
 };
 
 /// The start-up and shutdown spine: creates every long-lived object in a fixed order, connects the
@@ -80,6 +82,7 @@ public:
     MediaPlayback *media() const { return media_.get(); }
     ClaudeCodeMonitor *claudeCode() const { return claudeCode_.get(); }
     WeatherReports *weather() const { return weather_.get(); }
+    Timers *timers() const { return timers_.get(); }
     FloatingPanel *floatingPanel() const { return floatingPanel_.get(); }
     ContentView *contentView() const { return contentView_.get(); }
 
@@ -126,6 +129,7 @@ private:
     std::unique_ptr<DeviceHUD> deviceHUD_;
     std::unique_ptr<MediaPlayback> media_;
     std::unique_ptr<ClaudeCodeMonitor> claudeCode_;
+    std::unique_ptr<Timers> timers_;
     std::unique_ptr<PowerAlerts> powerAlerts_;
     std::unique_ptr<WeatherReports> weather_;
     std::unique_ptr<SystemLoad> systemLoad_;

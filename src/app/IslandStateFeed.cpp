@@ -5,6 +5,8 @@
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
 #include "platform/StatePublisher.h"
+#include "tools/TimerFields.h"
+#include "tools/Timers.h"
 #include "weather/WeatherFields.h"
 #include "weather/WeatherService.h"
 
@@ -78,7 +80,8 @@ QVariantMap systemStatsFields(const SystemStats &stats)
 
 IslandStateFeed::IslandStateFeed(StatePublisher &publisher, HUDManager &hudManager,
                                  ContentView &contentView, FloatingPanel &panel,
-                                 ClaudeCodeMonitor &claudeCode, WeatherService &weather)
+                                 ClaudeCodeMonitor &claudeCode, WeatherService &weather,
+                                 Timers &timers)
 {
     const auto feed = [this](auto &source, auto signal, auto publish) {
         connect(&source, signal, this, publish);
@@ -119,6 +122,16 @@ IslandStateFeed::IslandStateFeed(StatePublisher &publisher, HUDManager &hudManag
         publisher.publish(QStringLiteral("SystemStats"),
                           fieldsOrNothing(hudManager.systemStats(), systemStatsFields));
     });
+    const auto publishTimers = [&publisher, &timers] {
+        publisher.publish(QStringLiteral("Timers"),
+                          timerFields(timers.pomodoro(), timers.countdown()));
+    };
+    feed(timers.pomodoro(), &PomodoroManager::stateChanged, publishTimers);
+    feed(timers.pomodoro(), &PomodoroManager::timeRemainingChanged, publishTimers);
+    feed(timers.countdown(), &CountdownTimerManager::modeChanged, publishTimers);
+    feed(timers.countdown(), &CountdownTimerManager::isRunningChanged, publishTimers);
+    feed(timers.countdown(), &CountdownTimerManager::elapsedSecondsChanged, publishTimers);
+    feed(timers.countdown(), &CountdownTimerManager::targetSecondsChanged, publishTimers);
 }
 
 } // namespace quillmere

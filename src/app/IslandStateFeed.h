@@ -10,6 +10,7 @@ class ContentView;
 class FloatingPanel;
 class HUDManager;
 class StatePublisher;
+class Timers;
 class WeatherService;
 struct HUDContent;
 struct SystemStats;
@@ -29,7 +30,8 @@ class IslandStateFeed : public QObject
 {
 public:
     IslandStateFeed(StatePublisher &publisher, HUDManager &hudManager, ContentView &contentView,
-                    FloatingPanel &panel, ClaudeCodeMonitor &claudeCode, WeatherService &weather);
+                    FloatingPanel &panel, ClaudeCodeMonitor &claudeCode, WeatherService &weather,
+                    Timers &timers);
 };
 
 } // namespace quillmere

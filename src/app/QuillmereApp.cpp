@@ -24,7 +24,7 @@ void QuillmereApp::launch(std::function<void()> onTerminate)
     stateFeed_ = std::make_unique<IslandStateFeed>(
         platform_.statePublisher, hudManager_, *appDelegate_.contentView(),
         *appDelegate_.floatingPanel(), *appDelegate_.claudeCode(),
-        appDelegate_.weather()->service());
+        appDelegate_.weather()->service(), *appDelegate_.timers());
     remoteActions_ = std::make_unique<RemoteActions>(platform_.remoteControl,
                                                      platform_.notificationCenter, appDelegate_);
 }

@@ -5,6 +5,7 @@
 #include "app/MediaPlayback.h"
 #include "platform/NotificationCenter.h"
 #include "platform/RemoteControl.h"
+#include "tools/Timers.h"
 
 #include <QDebug>
 
@@ -25,6 +26,7 @@ std::function<void()> onMedia(AppDelegate &delegate, void (MediaPlayback::*comma
 RemoteActions::RemoteActions(RemoteControl &remoteControl, NotificationCenter &notificationCenter,
                              AppDelegate &delegate)
     : remoteControl_(remoteControl)
+    , delegate_(delegate)
     , actions_{
           {QStringLiteral("show-island"), [&delegate] { delegate.showIsland(); }},
           {QStringLiteral("toggle-island"),
@@ -57,10 +59,14 @@ RemoteActions::~RemoteActions()
     remoteControl_.setHandlers({});
 }
 
-bool RemoteActions::activate(const QString &action, const QVariantList &parameter) const
+ActionOutcome RemoteActions::activate(const QString &action, const QVariantList &parameter) const
 {
     const auto found = actions_.constFind(action);
-    if (found == actions_.cend() || !parameter.isEmpty())
+    if (found == actions_.cend()) {
+        const auto outcome = delegate_.timers()->shortcuts().activateAction(action, parameter);
+        return outcome ? ActionOutcome(true) : ActionOutcome::refused(outcome.error());
+    }
+    if (!parameter.isEmpty())
         return false;
     (*found)();
     return true;

@@ -11,6 +11,7 @@ namespace quillmere {
 class AppDelegate;
 class NotificationCenter;
 class RemoteControl;
+struct ActionOutcome;
 
 /// Answers what other programs, desktop actions and key bindings ask of the running program.
 class RemoteActions
@@ -23,9 +24,10 @@ public:
     RemoteActions &operator=(const RemoteActions &) = delete;
 
 private:
-    bool activate(const QString &action, const QVariantList &parameter) const;
+    ActionOutcome activate(const QString &action, const QVariantList &parameter) const;
 
     RemoteControl &remoteControl_;
+    AppDelegate &delegate_;
     QHash<QString, std::function<void()>> actions_;
 };
 

@@ -29,6 +29,7 @@ class RunLoop;
 class RunningApplications;
 class Screens;
 class ScriptRunner;
+class ShortcutPublisher;
 class StatePublisher;
 class StatusItem;
 class SystemSound;
@@ -73,6 +74,7 @@ struct Platform {
     Reachability &reachability;
     StatePublisher &statePublisher;
     RemoteControl &remoteControl;
+    ShortcutPublisher &shortcutPublisher;
 };
 
 } // namespace quillmere

@@ -25,6 +25,7 @@
 #include "support/FakePanelWindow.h"
 #include "support/FakePowerSources.h"
 #include "support/FakeScreens.h"
+#include "support/FakeShortcutPublisher.h"
 #include "support/FakeStatusItem.h"
 #include "support/FakeWeather.h"
 #include "support/ManualRunLoop.h"
@@ -111,6 +112,7 @@ protected:
     FakeMediaRemote mediaRemote;
     FakeMessageSocketServer socket{runLoop};
     LinuxUserFiles files;
+    FakeShortcutPublisher desktop;
     FakePowerSources power;
     FakeLowPowerMode lowPowerMode;
     FakeHostStatistics host;
@@ -125,7 +127,7 @@ protected:
         window,   globalEvents,  dragPasteboard, applications, audio, streams,   batteries,
         display,  haptics,       appearance,     statusItem,   http,  scripts,   mediaRemote,
         socket,   files,         power,          lowPowerMode, host,  alerts,    sound,
-        location, geocoder,      keychain,       reachability, state, remote};
+        location, geocoder,      keychain,       reachability, state, remote,    desktop};
     QTemporaryDir library;
     AudioDeviceID speakers = 0;
     int terminations = 0;

@@ -44,6 +44,7 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
     , bluetoothBatteries_(runLoop)
     , displayBrightness_(runLoop, displayPlaces())
     , haptics_(sessionBus(bus))
+    , globalShortcuts_(sessionBus(bus), bus.shortcuts())
     , appearance_(runLoop, sessionBus(bus),
                   DesktopAppearance::kdeGlobalsOfSession(xdg::configHome()))
     , statusItem_(runLoop, bus.connection(), std::move(drawIcon))
@@ -91,7 +92,8 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
                 keychain_,
                 reachability_,
                 bus.statePublisher(),
-                bus.remoteControl()}
+                bus.remoteControl(),
+                bus.shortcuts()}
 {
 }
 

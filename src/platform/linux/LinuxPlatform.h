@@ -24,6 +24,7 @@
 #include "platform/linux/power/PowerProfiles.h"
 #include "platform/linux/power/UPowerSources.h"
 #include "platform/linux/scripts/ProcessScriptRunner.h"
+#include "platform/linux/shortcuts/PortalGlobalShortcuts.h"
 #include "platform/linux/sockets/UnixMessageServer.h"
 #include "platform/linux/stats/ProcStatistics.h"
 #include "platform/linux/tray/TrayStatusItem.h"
@@ -58,6 +59,7 @@ private:
     BusBluetoothBatteries bluetoothBatteries_;
     LinuxDisplayBrightness displayBrightness_;
     FeedbackdHaptics haptics_;
+    PortalGlobalShortcuts globalShortcuts_; ///< before the appearance: the first to ask the portal
     DesktopAppearance appearance_;
     TrayStatusItem statusItem_;
     QtHttpClient httpClient_;
