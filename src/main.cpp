@@ -72,7 +72,8 @@ private:
                                             .fileTray = island.fileTray,
                                             .claudeCode = island.claudeCode,
                                             .weather = island.weather,
-                                            .systemLoad = island.systemLoad},
+                                            .systemLoad = island.systemLoad,
+                                            .timers = island.timers},
                            services.appearance);
         const auto openLink = [](const QUrl &link) { QDesktopServices::openUrl(link); };
         QObject::connect(&*model_, &IslandModel::linkActivated, openLink);

@@ -134,6 +134,11 @@ void AppDelegate::createIsland()
                                                .shortcutPublisher = platform_.shortcutPublisher},
                                  settings_, hudManager_);
     timers_->isSuppressed = [this] { return hudsAreSuppressed(); };
+    const auto showTimer = [this] {
+        const auto &content = timers_->wing().content();
+        wings_->setTimerText(content ? content->text : QString());
+    };
+    connect(&timers_->wing(), &WingTimer::contentChanged, this, showTimer);
     timers_->setOnShow([this] { showIsland(); });
     gestures_->onSkipMedia = [this](int step) {
         if (step > 0)

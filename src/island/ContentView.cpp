@@ -103,10 +103,14 @@ void ContentView::observe(NotificationCenter &notificationCenter)
         Q_EMIT wingsChanged();
     };
     connect(&wings_, &IdleWings::contentChanged, this, wingsHaveChanged);
+    connect(&wings_, &IdleWings::contentChanged, this, &ContentView::offerPages);
     connect(&hudManager_, &HUDManager::hudQueueChanged, this, wingsHaveChanged);
     connect(&hudManager_, &HUDManager::currentQueueIndexChanged, this, wingsHaveChanged);
     connect(&settings_, &SettingsStore::didChange, this, [this](const QString &key) {
-        if (key == settings_.showFileTray.key() || key == settings_.showSystemMonitor.key())
+        const QString offering[] = {settings_.showFileTray.key(), settings_.showSystemMonitor.key(),
+                                    settings_.enablePomodoro.key(),
+                                    settings_.enableCountdownTimer.key()};
+        if (std::ranges::find(offering, key) != std::end(offering))
             offerPages();
     });
 }
@@ -119,6 +123,10 @@ void ContentView::offerPages()
         pages.append(IslandPage::System);
     if (settings_.showFileTray.get())
         pages.append(IslandPage::FileTray);
+    // One that was started from outside has to be stopped somewhere.
+    if (settings_.enablePomodoro.get() || settings_.enableCountdownTimer.get() ||
+        wings_.content().timer)
+        pages.append(IslandPage::Timer);
     pages_.offer(pages);
 }
 

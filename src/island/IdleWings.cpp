@@ -12,14 +12,18 @@ namespace {
 
 constexpr double wingWidth = 44;
 constexpr double wordyWingWidth = 84;
+constexpr double longTimerWidth = 66;
+constexpr qsizetype shortTimer = 5; // letters: "59:59"
 
 } // namespace
 
 double WingContent::width() const
 {
-    if (assistant && !media)
+    if (longTimer)
+        return longTimerWidth;
+    if (assistant && !media && !timer)
         return wordyWingWidth;
-    return media || activity ? wingWidth : 0;
+    return media || assistant || timer || activity ? wingWidth : 0;
 }
 
 IdleWings::IdleWings(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
@@ -39,6 +43,12 @@ IdleWings::IdleWings(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudM
 void IdleWings::setAssistantActive(bool active)
 {
     assistantActive_ = active;
+    update();
+}
+
+void IdleWings::setTimerText(const QString &text)
+{
+    timerLetters_ = text.size();
     update();
 }
 
@@ -72,8 +82,11 @@ bool IdleWings::showsMedia() const
 
 void IdleWings::update()
 {
-    WingContent content{.media = showsMedia(), .assistant = assistantActive_};
-    content.activity = !content.media && !content.assistant &&
+    WingContent content{.media = showsMedia(),
+                        .assistant = assistantActive_,
+                        .timer = timerLetters_ > 0,
+                        .longTimer = timerLetters_ > shortTimer};
+    content.activity = !content.media && !content.assistant && !content.timer &&
                        settings_.idleActivityMostRecent.get() && !hudManager_.hudQueue().isEmpty();
     if (std::exchange(content_, content) != content)
         Q_EMIT contentChanged();

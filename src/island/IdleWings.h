@@ -3,6 +3,7 @@
 #include "platform/RunLoop.h"
 
 #include <QObject>
+#include <QString>
 
 namespace quillmere {
 
@@ -14,10 +15,12 @@ class SettingsStore;
 struct WingContent {
     bool media = false;     ///< the playing track
     bool assistant = false; ///< what the coding assistant does
+    bool timer = false;     ///< the time left of a timer
+    bool longTimer = false; ///< with hours
     bool activity = false;  ///< the current entry of the activity queue; never beside the others
 
-    /// Of one wing, in logical units. A track and the assistant share them; the assistant alone has
-    /// room for a word.
+    /// Of one wing, in logical units. Two of a track, the assistant and a timer share them; the
+    /// assistant alone has room for a word.
     double width() const;
 
     bool operator==(const WingContent &) const = default;
@@ -37,6 +40,9 @@ public:
     /// Whether the coding assistant has something to tell.
     void setAssistantActive(bool active);
 
+    /// The text of the timer that runs; empty: none does.
+    void setTimerText(const QString &text);
+
 Q_SIGNALS:
     void contentChanged();
 
@@ -52,6 +58,7 @@ private:
 
     WingContent content_;
     bool assistantActive_ = false;
+    qsizetype timerLetters_ = 0;
     bool pausedTooLong_ = false;
     Task pauseLimit_; ///< present while a track is paused, but not yet too long
     Task applicationsListener_;

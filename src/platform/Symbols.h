@@ -48,6 +48,7 @@ inline constexpr QLatin1StringView playCircle{"play.circle.fill"};
 inline constexpr QLatin1StringView arrowDownCircle{"arrow.down.circle.fill"};
 
 inline constexpr QLatin1StringView timer{"timer"};
+inline constexpr QLatin1StringView pencil{"pencil"};
 inline constexpr QLatin1StringView hourglass{"hourglass"};
 inline constexpr QLatin1StringView stopwatch{"stopwatch"};
 inline constexpr QLatin1StringView stopCircle{"stop.circle"};
@@ -55,12 +56,12 @@ inline constexpr QLatin1StringView xmarkCircle{"xmark.circle"};
 inline constexpr QLatin1StringView capsule{"capsule"};
 
 inline constexpr std::array all{
-    timer,           hourglass,    stopwatch,    stopCircle,     xmarkCircle,      capsule,
-    arrowDownCircle, chevronLeft,  chevronRight, xmark,          checkmark,        doc,
-    speakerSlash,    speakerWave1, speakerWave2, speakerWave3,   airpods,          headphones,
-    hifispeaker,     car,          tv,           sunMax,         battery0,         battery25,
-    battery50,       battery75,    battery100,   battery100Bolt, trayAndArrowDown, island,
-    playFill,        pauseFill,    backwardFill, forwardFill,    shuffle,          repeat,
-    heart,           docOnDoc,     musicNote,    playCircle,     magnifyingGlass};
+    pencil,     timer,           hourglass,    stopwatch,    stopCircle,     xmarkCircle,
+    capsule,    arrowDownCircle, chevronLeft,  chevronRight, xmark,          checkmark,
+    doc,        speakerSlash,    speakerWave1, speakerWave2, speakerWave3,   airpods,
+    headphones, hifispeaker,     car,          tv,           sunMax,         battery0,
+    battery25,  battery50,       battery75,    battery100,   battery100Bolt, trayAndArrowDown,
+    island,     playFill,        pauseFill,    backwardFill, forwardFill,    shuffle,
+    repeat,     heart,           docOnDoc,     musicNote,    playCircle,     magnifyingGlass};
 
 } // namespace quillmere::symbols

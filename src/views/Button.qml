@@ -9,6 +9,10 @@ Item {
     property string text
     property string description: text
     property bool flat: false
+    property bool chosen: false // one of several
+    property bool prominent: false // what is pressed most
+
+    readonly property color ink: prominent ? "black" : chosen || !flat || symbol !== "" ? Ink.content : Ink.secondary
     property real maximumWidth: 400
 
     signal pressed()
@@ -20,6 +24,7 @@ Item {
     Accessible.role: Accessible.Button
     Accessible.name: text === "" ? description : text
     Accessible.description: description
+    Accessible.checked: chosen
     Accessible.onPressAction: pressed()
     Keys.onReturnPressed: pressed()
     Keys.onSpacePressed: pressed()
@@ -27,8 +32,12 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: height / 2
-        color: area.containsPress ? Ink.pressed : hover.hovered ? Ink.raised : Ink.card
-        visible: !button.flat || hover.hovered || area.containsPress
+        color: {
+            if (button.prominent)
+                return area.containsPress ? Ink.body : Ink.content;
+            return area.containsPress || button.chosen ? Ink.pressed : hover.hovered ? Ink.raised : Ink.card;
+        }
+        visible: !button.flat || button.chosen || hover.hovered || area.containsPress || button.activeFocus
         border.width: button.activeFocus ? 1.5 : 0
         border.color: Ink.content
     }
@@ -46,7 +55,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             visible: button.symbol !== ""
             symbol: button.symbol
-            color: Ink.content
+            color: button.ink
         }
         Text {
             anchors.verticalCenter: parent.verticalCenter
@@ -56,7 +65,7 @@ Item {
             textFormat: Text.PlainText
             elide: Text.ElideRight
             font: Type.text
-            color: Ink.content
+            color: button.ink
         }
     }
     HoverHandler {

@@ -88,6 +88,8 @@ FocusScope {
                     return weatherPage;
                 case "system":
                     return systemPage;
+                case "timer":
+                    return timerPage;
                 case "fileTray":
                     return trayPage;
                 default:
@@ -115,6 +117,13 @@ FocusScope {
         id: systemPage
         SystemPage {
             model: dashboard.model.system
+            live: dashboard.live
+        }
+    }
+    Component {
+        id: timerPage
+        TimerPage {
+            model: dashboard.model
             live: dashboard.live
         }
     }

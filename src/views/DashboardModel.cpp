@@ -61,6 +61,7 @@ DashboardModel::DashboardModel(RunLoop &runLoop, SettingsStore &settings, HUDMan
     , weather_(runLoop, settings, sources.weather.service(), sources.weather.place(),
                sources.weather.search())
     , system_(sources.systemLoad)
+    , timer_(settings, sources.timers)
 {
     const IslandPages &pages = contentView_.pages();
     connect(&pages, &IslandPages::offeredChanged, this, &DashboardModel::pagesChanged);
@@ -107,6 +108,7 @@ void DashboardModel::watchPages()
 {
     weather_.setWatched(contentView_.shows(IslandPage::Weather));
     system_.setWatched(contentView_.shows(IslandPage::System));
+    timer_.setWatched(contentView_.shows(IslandPage::Timer));
 }
 
 bool DashboardModel::isTyping() const

@@ -5,6 +5,7 @@
 #include "views/FaceModel.h"
 #include "views/MediaModel.h"
 #include "views/SystemModel.h"
+#include "views/TimerModel.h"
 #include "views/WeatherModel.h"
 
 #include <QObject>
@@ -24,6 +25,7 @@ class FileTray;
 class HUDManager;
 class SettingsStore;
 class SystemLoad;
+class Timers;
 class WeatherReports;
 
 /// Where what the dashboard shows comes from.
@@ -33,6 +35,7 @@ struct DashboardSources {
     ClaudeCodeMonitor &claudeCode;
     WeatherReports &weather;
     SystemLoad &systemLoad;
+    Timers &timers;
 };
 
 /// What the open dashboard shows, ready to be drawn: its pages, and what is live on them. It
@@ -65,6 +68,7 @@ class DashboardModel : public QObject
 
     Q_PROPERTY(quillmere::WeatherModel *weather READ weather CONSTANT FINAL)
     Q_PROPERTY(quillmere::SystemModel *system READ system CONSTANT FINAL)
+    Q_PROPERTY(quillmere::TimerModel *timer READ timer CONSTANT FINAL)
     Q_PROPERTY(bool typing READ isTyping WRITE setTyping NOTIFY typingChanged FINAL)
 
     Q_PROPERTY(QString outputName READ outputName NOTIFY outputChanged FINAL)
@@ -107,6 +111,7 @@ public:
     AssistantModel *assistant() { return &assistant_; }
     WeatherModel *weather() { return &weather_; }
     SystemModel *system() { return &system_; }
+    TimerModel *timer() { return &timer_; }
 
     /// What is typed goes to the island.
     bool isTyping() const;
@@ -175,6 +180,7 @@ private:
     AssistantModel assistant_;
     WeatherModel weather_;
     SystemModel system_;
+    TimerModel timer_;
     Task nextMinute_;
 };
 

@@ -83,6 +83,7 @@ constexpr std::array glyphNames{
     GlyphName{symbols::weather::moonBolt, QLatin1StringView{"status/weather-storm"}},
     GlyphName{symbols::weather::tropicalStorm, QLatin1StringView{"status/weather-tornado"}},
     GlyphName{symbols::weather::hurricane, QLatin1StringView{"status/weather-tornado"}},
+    GlyphName{symbols::pencil, QLatin1StringView{"actions/document-edit"}},
     GlyphName{symbols::timer, QLatin1StringView{"status/timer"}},
     GlyphName{symbols::hourglass, QLatin1StringView{"status/hourglass"}},
     GlyphName{symbols::stopwatch, QLatin1StringView{"status/stopwatch"}},

@@ -53,6 +53,7 @@ class IslandModel : public QObject
     Q_PROPERTY(bool showsWings READ showsWings NOTIFY wingsChanged FINAL)
     Q_PROPERTY(bool wingsShowMedia READ wingsShowMedia NOTIFY wingsChanged FINAL)
     Q_PROPERTY(bool wingsShowAssistant READ wingsShowAssistant NOTIFY wingsChanged FINAL)
+    Q_PROPERTY(bool wingsShowTimer READ wingsShowTimer NOTIFY wingsChanged FINAL)
     Q_PROPERTY(quillmere::FaceModel *wings READ wings CONSTANT FINAL)
     Q_PROPERTY(QString accessibleText READ accessibleText NOTIFY accessibleTextChanged FINAL)
 
@@ -80,6 +81,7 @@ public:
     /// That activity is the playing track; otherwise it has its face.
     bool wingsShowMedia() const { return shownWings_.media; }
     bool wingsShowAssistant() const { return shownWings_.assistant; }
+    bool wingsShowTimer() const { return shownWings_.timer; }
     FaceModel *wings() { return &wings_; }
     QString accessibleText() const;
 

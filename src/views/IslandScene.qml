@@ -80,6 +80,7 @@ Item {
                 island: scene.island
                 media: scene.dashboard.media
                 assistant: scene.dashboard.assistant
+                timer: scene.dashboard.timer
                 live: scene.live
             }
             HUDSlot {

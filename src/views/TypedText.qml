@@ -9,6 +9,7 @@ Item {
     required property DashboardModel model
     property string symbol
     property string placeholder
+    property bool refused: false // the text is not what is wanted
     property alias text: input.text
 
     signal textEdited()
@@ -29,7 +30,7 @@ Item {
         radius: height / 2
         color: Ink.card
         border.width: input.activeFocus ? 1.5 : 0
-        border.color: Ink.content
+        border.color: field.refused ? "#ff6464" : Ink.content
     }
     Glyph {
         id: glyph

@@ -8,11 +8,13 @@ Item {
     required property IslandModel island
     required property MediaModel media
     required property AssistantModel assistant
+    required property TimerModel timer
     required property bool live
 
     readonly property FaceModel face: island.wings
     readonly property bool showsMedia: island.wingsShowMedia
     readonly property bool showsAssistant: island.wingsShowAssistant
+    readonly property bool showsTimer: island.wingsShowTimer
     // A camera housing takes the middle; then a word has the room of one wing.
     readonly property bool parted: island.contentTop > 0
 
@@ -21,9 +23,14 @@ Item {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: {
-        if (showsMedia && showsAssistant)
-            return qsTr("%1; %2").arg(media.accessibleText).arg(assistant.summary);
-        return showsMedia ? media.accessibleText : showsAssistant ? assistant.summary : face.accessibleText;
+        const parts = [];
+        if (showsMedia)
+            parts.push(media.accessibleText);
+        if (showsAssistant)
+            parts.push(assistant.summary);
+        if (showsTimer)
+            parts.push(timer.wingText);
+        return parts.length > 0 ? parts.join("; ") : face.accessibleText;
     }
     Accessible.ignored: !island.showsWings
 
@@ -86,7 +93,7 @@ Item {
     }
 
     Part {
-        shown: wings.showsMedia && !wings.showsAssistant
+        shown: wings.showsMedia && !wings.showsAssistant && !wings.showsTimer
 
         Waveform {
             height: 14
@@ -101,7 +108,7 @@ Item {
     }
 
     Part {
-        shown: wings.showsMedia && wings.showsAssistant
+        shown: wings.showsMedia && wings.showsAssistant && !wings.showsTimer
 
         PulsingDot {
             width: 24
@@ -116,7 +123,7 @@ Item {
     }
 
     Part {
-        shown: wings.showsAssistant && !wings.showsMedia
+        shown: wings.showsAssistant && !wings.showsMedia && !wings.showsTimer
 
         PulsingDot {
             id: dot
@@ -159,7 +166,41 @@ Item {
     }
 
     Part {
-        shown: !wings.showsMedia && !wings.showsAssistant
+        shown: wings.showsTimer
+
+        Glyph {
+            width: 18
+            height: 18
+            anchors.left: parent.left
+            anchors.leftMargin: 13
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !wings.showsMedia && !wings.showsAssistant
+            symbol: wings.timer.wingSymbol
+            color: "#ffb042"
+        }
+        PulsingDot {
+            width: 24
+            height: 24
+            anchors.left: parent.left
+            anchors.leftMargin: 6
+            anchors.verticalCenter: parent.verticalCenter
+            visible: wings.showsAssistant && !wings.showsMedia
+            color: wings.assistant.badgeColor
+            active: wings.assistant.active
+            still: wings.island.reducedMotion
+        }
+        FigureText {
+            anchors.right: parent.right
+            anchors.rightMargin: 11
+            anchors.verticalCenter: parent.verticalCenter
+            text: wings.timer.wingText
+            font: Type.text
+            color: "#ffb042"
+        }
+    }
+
+    Part {
+        shown: !wings.showsMedia && !wings.showsAssistant && !wings.showsTimer
 
         Glyph {
             width: 18

@@ -11,6 +11,7 @@
 #include "island/IdleWings.h"
 #include "island/IslandDebugLogger.h"
 #include "island/IslandGestures.h"
+#include "support/FakeAlerts.h"
 #include "support/FakeAppearance.h"
 #include "support/FakeAudioHardware.h"
 #include "support/FakeGlobalEvents.h"
@@ -21,11 +22,13 @@
 #include "support/FakeMessageSocketServer.h"
 #include "support/FakePanelWindow.h"
 #include "support/FakeScreens.h"
+#include "support/FakeShortcutPublisher.h"
 #include "support/FakeUserFiles.h"
 #include "support/FakeWeather.h"
 #include "support/ManualRunLoop.h"
 #include "support/MemoryUserDefaults.h"
 #include "support/SettingsFixture.h"
+#include "tools/Timers.h"
 #include "views/DashboardModel.h"
 #include "views/IslandModel.h"
 
@@ -44,6 +47,10 @@ struct IslandFixture {
         };
         QObject::connect(&claudeCode, &ClaudeCodeMonitor::isActiveChanged, &wings,
                          [this] { wings.setAssistantActive(claudeCode.isActive()); });
+        QObject::connect(&timers.wing(), &WingTimer::contentChanged, &wings, [this] {
+            const auto &content = timers.wing().content();
+            wings.setTimerText(content ? content->text : QString());
+        });
         weather.isOnShow = [this] { return content.shows(IslandPage::Weather); };
         panel.displaysDidChange();
         runLoop.advance(std::chrono::seconds(4));
@@ -85,8 +92,13 @@ struct IslandFixture {
         {runLoop, location, geocoder, http, keychain, reachability}, local, settings, hud};
     FakeHostStatistics host;
     SystemLoad load{runLoop, host, settings, hud};
+    FakeUserNotifications alerts;
+    FakeSystemSound sound;
+    FakeShortcutPublisher shortcuts;
+    Timers timers{{runLoop, alerts, sound, fixture.notifications, shortcuts}, settings, hud};
     DashboardModel dashboard{
-        runLoop, settings, hud, content, {picker, tray, claudeCode, weather, load}, appearance};
+        runLoop,   settings, hud, content, {picker, tray, claudeCode, weather, load, timers},
+        appearance};
 };
 
 } // namespace quillmere

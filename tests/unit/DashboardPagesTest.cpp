@@ -220,4 +220,69 @@ TEST_F(DashboardPagesTest, LoadIsDrawnWithItsHistory)
     EXPECT_EQ(content.pages().islandPage(), IslandPage::Main);
 }
 
+TEST_F(DashboardPagesTest, TheTimerPageDrivesWhatItShows)
+{
+    TimerModel &timer = *dashboard.timer();
+    EXPECT_FALSE(content.pages().offered().contains(IslandPage::Timer));
+    settings.enableCountdownTimer.set(true);
+    show(IslandPage::Timer);
+    EXPECT_EQ(timer.tool(), 1) << "the focus timer is off";
+    EXPECT_EQ(timer.time(), u"5:00"_s);
+    timer.startPreset(10);
+    runLoop.advance(61s);
+    EXPECT_EQ(timer.time(), u"8:59"_s);
+    EXPECT_EQ(timer.mainAction(), u"Pause"_s);
+    EXPECT_EQ(timer.preset(), 10);
+    timer.doMain();
+    EXPECT_EQ(timer.mainAction(), u"Resume"_s);
+    timer.reset();
+    EXPECT_EQ(timer.mainAction(), u"Start"_s);
+    EXPECT_FALSE(timer.canReset());
+
+    timer.openEntry();
+    EXPECT_FALSE(timer.enter(u"soon"_s));
+    EXPECT_TRUE(timer.isEntering());
+    EXPECT_TRUE(timer.enter(u"1:30"_s));
+    EXPECT_EQ(timer.preset(), -1);
+    runLoop.advance(91s);
+    EXPECT_EQ(timer.fraction(), 0);
+    EXPECT_EQ(timer.mainAction(), u"Start"_s);
+
+    timer.choose(2);
+    EXPECT_EQ(timer.time(), u"0:00"_s);
+    timer.doMain();
+    runLoop.advance(90s);
+    EXPECT_EQ(timer.time(), u"1:30"_s);
+    EXPECT_NEAR(timer.fraction(), 0.5, 0.01);
+
+    timer.choose(0);
+    timer.doMain();
+    EXPECT_EQ(timer.dots(), (QVariantList{1, 0, 0, 0}));
+    EXPECT_EQ(timer.mainAction(), u"Stop"_s);
+    timer.skip();
+    EXPECT_EQ(timer.title(), u"Short Break"_s);
+    EXPECT_EQ(timer.dots(), (QVariantList{2, 0, 0, 0}));
+}
+
+TEST_F(DashboardPagesTest, ARunningTimerIsInTheWingsAndHasItsPage)
+{
+    const auto width = [this] { return content.islandSize().width(); };
+    const double pill = width();
+    timers.countdown().start();
+    EXPECT_TRUE(content.pages().offered().contains(IslandPage::Timer));
+    EXPECT_TRUE(island.wingsShowTimer());
+    EXPECT_EQ(dashboard.timer()->wingText(), u"5:00"_s);
+    EXPECT_EQ(width(), pill + 2 * 44);
+    hud.show({.title = u"Note"_s}, true, 1);
+    runLoop.advance(10s);
+    EXPECT_TRUE(island.wingsShowTimer()) << "before an activity";
+    timers.countdown().reset();
+    timers.countdown().setTarget(7200);
+    timers.countdown().start();
+    EXPECT_EQ(width(), pill + 2 * 66);
+    timers.stop();
+    EXPECT_FALSE(content.wings().content().timer);
+    EXPECT_FALSE(content.pages().offered().contains(IslandPage::Timer));
+}
+
 } // namespace
