@@ -60,7 +60,6 @@ void NowPlayingPoller::start()
 void NowPlayingPoller::stop()
 {
     lastPollTime_.reset();
-    lastPolledTitle_.clear();
     fallback_.reset();
     timer_.cancel();
     firstPoll_.cancel();
@@ -137,7 +136,6 @@ void NowPlayingPoller::applyPlaying(const NowPlayingInfo &info)
 void NowPlayingPoller::show(const NowPlayingInfo &info)
 {
     lastShown_ = services_.runLoop.now();
-    lastPolledTitle_ = info.title;
     services_.logger.log(IslandDebugLogger::Category::Poller, [&info] { return pollLine(info); });
     if (info.duration)
         services_.hudManager.updateNowPlaying(mediaContent(info), shownElapsed(info),
@@ -153,7 +151,6 @@ void NowPlayingPoller::clearWhenIdle()
     if (!lastShown_ || services_.runLoop.now() - *lastShown_ < idle)
         return;
     lastShown_.reset();
-    lastPolledTitle_.clear();
     services_.hudManager.clearNowPlaying();
 }
 

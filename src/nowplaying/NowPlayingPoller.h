@@ -62,7 +62,6 @@ private:
     Task timer_;
     std::vector<Task> notificationObservers_;
     std::optional<Instant> lastPollTime_;
-    QString lastPolledTitle_;
     qint64 electedInactivePolls_ = 0;
     BrowserFallback fallback_;
 
