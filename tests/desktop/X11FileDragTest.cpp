@@ -1,10 +1,8 @@
 #include "platform/linux/window/X11DragPasteboard.h"
 #include "platform/linux/window/X11GlobalEvents.h"
 #include "platform/linux/window/X11PanelWindow.h"
-#include "support/Eventually.h"
 #include "support/LogCapture.h"
-#include "support/X11Inspector.h"
-#include "support/XServer.h"
+#include "support/X11Desktop.h"
 #include "views/DropTarget.h"
 
 #include <QDeadlineTimer>
@@ -16,39 +14,19 @@
 namespace quillmere {
 namespace {
 
-/// A private display with a window manager, and the application on it.
-class Desktop : public ::testing::Environment
+class Desktop : public X11Desktop
 {
 public:
+    using X11Desktop::X11Desktop;
     void SetUp() override
     {
-        qputenv("QT_QPA_PLATFORM", "xcb");
-        server.emplace(QStringLiteral("1280x800x24"));
-        windowManager.emplace(QStringLiteral("openbox"), QStringList());
-        static int argc = 1;
-        static char name[] = "X11FileDragTest";
-        static char *argv[] = {name, nullptr};
+        X11Desktop::SetUp();
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-        application.emplace(argc, argv);
-        // A window that is there before its manager is framed and moved in the middle of a drag.
-        X11Inspector inspector;
-        if (!eventually([&] {
-                return !inspector.property(inspector.root(), "_NET_SUPPORTING_WM_CHECK").empty();
-            }))
-            throw std::runtime_error("no window manager");
     }
-    void TearDown() override
-    {
-        application.reset();
-        windowManager.reset();
-        server.reset();
-    }
-    std::optional<XServer> server;
-    std::optional<ChildProgram> windowManager;
-    std::optional<QGuiApplication> application;
 };
 
-[[maybe_unused]] const auto *desktop = ::testing::AddGlobalTestEnvironment(new Desktop);
+[[maybe_unused]] const auto *desktop =
+    ::testing::AddGlobalTestEnvironment(new Desktop(QStringLiteral("1280x800x24")));
 
 enum class Content { Text, WebLink, Files, HugeList };
 

@@ -6,10 +6,8 @@
 #include "platform/linux/window/PanelShape.h"
 #include "platform/linux/window/QtScreens.h"
 #include "platform/linux/window/X11GlobalEvents.h"
-#include "support/Eventually.h"
 #include "support/SettingsFixture.h"
-#include "support/X11Inspector.h"
-#include "support/XServer.h"
+#include "support/X11Desktop.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -28,41 +26,22 @@ using namespace Qt::StringLiterals;
 const QRect areaA(0, 0, 1512, 982);
 const QRect areaB(1512, 0, 1920, 1080);
 
-/// A virtual display with two monitors and a window manager, and the application on it.
-class Desktop : public ::testing::Environment
+class Desktop : public X11Desktop
 {
 public:
+    using X11Desktop::X11Desktop;
     void SetUp() override
     {
-        qputenv("QT_QPA_PLATFORM", "xcb");
-        server.emplace();
-        windowManager.emplace(u"openbox"_s, QStringList{u"--config-file"_s, u"/dev/null"_s});
-        static int argc = 1;
-        static char name[] = "X11PanelWindowTest";
-        static char *argv[] = {name, nullptr};
-        application.emplace(argc, argv);
+        X11Desktop::SetUp();
         XServer::setMonitor(u"*QM-A"_s, areaA, u"screen"_s);
         XServer::setMonitor(u"QM-B"_s, areaB, u"none"_s);
-        X11Inspector inspector;
-        if (!eventually([&] {
-                return QGuiApplication::screens().size() == 2 &&
-                       !inspector.property(inspector.root(), "_NET_SUPPORTING_WM_CHECK").empty();
-            }))
-            throw std::runtime_error("no monitors or no window manager");
+        if (!eventually([] { return QGuiApplication::screens().size() == 2; }))
+            throw std::runtime_error("no monitors");
     }
-    void TearDown() override
-    {
-        application.reset();
-        windowManager.reset();
-        server.reset();
-    }
-
-    std::optional<XServer> server;
-    std::optional<ChildProgram> windowManager;
-    std::optional<QGuiApplication> application;
 };
 
-[[maybe_unused]] const auto *desktop = ::testing::AddGlobalTestEnvironment(new Desktop);
+[[maybe_unused]] const auto *desktop =
+    ::testing::AddGlobalTestEnvironment(new Desktop(u"3432x1080x24"_s));
 
 class Canvas : public QRasterWindow
 {
