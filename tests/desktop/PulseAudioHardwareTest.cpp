@@ -352,6 +352,11 @@ TEST_F(PulseAudioHardwareTest, EventsWhileAQuestionIsUnderWayCostExactlyOneMore)
     for (int event = 0; event < 100; ++event)
         QCoreApplication::processEvents();
     EXPECT_EQ(answers, 2);
+
+    // The sink that is being looked up may be the one that comes meanwhile.
+    sink->handle({PA_SUBSCRIPTION_EVENT_SERVER, PA_SUBSCRIPTION_EVENT_CHANGE, PA_INVALID_INDEX});
+    sink->handle({PA_SUBSCRIPTION_EVENT_SINK, PA_SUBSCRIPTION_EVENT_NEW, 77});
+    EXPECT_TRUE(eventually([&] { return answers == 4; })) << answers;
     sink.reset();
 }
 

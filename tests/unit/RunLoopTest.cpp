@@ -219,13 +219,13 @@ TEST(TimerCoalescing, TimersWithOverlappingWindowsShareWakeUpsWithinTheirToleran
     for (const auto &[timers, wakeUpsPerMinute] : cases) {
         ManualRunLoop loop;
         std::vector<Task> tasks;
-        for (const auto &[interval, tolerance] : timers) {
+        for (const Timer &timer : timers) {
             loop.advance(37ms); // timers start when their features do, not together
-            tasks.push_back(loop.every(interval, tolerance,
-                                       [&, interval, tolerance, last = loop.now()]() mutable {
+            tasks.push_back(loop.every(timer.interval, timer.tolerance,
+                                       [&loop, timer, last = loop.now()]() mutable {
                                            const Duration gap = loop.now() - last;
-                                           EXPECT_GE(gap, interval - tolerance);
-                                           EXPECT_LE(gap, interval + tolerance);
+                                           EXPECT_GE(gap, timer.interval - timer.tolerance);
+                                           EXPECT_LE(gap, timer.interval + timer.tolerance);
                                            last = loop.now();
                                        }));
         }

@@ -22,17 +22,13 @@ PulseDefaultSink::questionAfter(const PulseConnection::Event &event) const
     if (event.facility == PA_SUBSCRIPTION_EVENT_SERVER)
         return Question::Server;
     const bool isOurs = sink_ && sink_->index == event.index;
-    switch (event.type) {
-    case PA_SUBSCRIPTION_EVENT_NEW: // a default named before its sink exists
-        return sink_ ? Question::None : Question::Server;
-    case PA_SUBSCRIPTION_EVENT_REMOVE:
+    if (event.type == PA_SUBSCRIPTION_EVENT_REMOVE)
         return isOurs ? Question::Server : Question::None;
-    default:
-        // While the default is being looked up, any sink may turn out to be it.
-        if (underWay_ == Question::Server)
-            return Question::Server;
-        return isOurs ? Question::Sink : Question::None;
-    }
+    // The default may be named before its sink is there. While it is looked up, and as long as it
+    // was not found, any sink may turn out to be it.
+    if (!sink_ || underWay_ == Question::Server)
+        return Question::Server;
+    return isOurs ? Question::Sink : Question::None;
 }
 
 void PulseDefaultSink::ask(Question question)
