@@ -130,8 +130,7 @@ void PortalGlobalShortcuts::bindShortcuts(const QList<Shortcut> &shortcuts)
 void PortalGlobalShortcuts::activated(const QDBusMessage &message)
 {
     const QVariantList arguments = message.arguments();
-    if (message.service() != portal_.name() ||
-        arguments.value(0).value<QDBusObjectPath>() != session_)
+    if (arguments.value(0).value<QDBusObjectPath>() != session_)
         return;
     const QString action = arguments.value(1).toString();
     shortcuts_.take([action](const ShortcutRequests &requests) { requests.run(action); });
