@@ -1,6 +1,7 @@
 """How the island lives with other windows: the focus, clicks beside it, films, desktops, compositors."""
 
 import re
+import time
 import unittest
 
 from case import DesktopTest
@@ -70,15 +71,18 @@ class MannersTest(DesktopTest):
             island.wait_out_mute()
             middle = self.desktop.primary.width // 2
 
+            def press(x, y):
+                self.desktop.run("xdotool", *self.click(x, y))
+
             def type_in_island(text):
-                self.click(middle, 16)
+                press(middle, 16)
                 island.wait_for("Presentation", "expanded")
                 if island.get("Page") != "weather":
                     self.desktop.screen.until_still((middle - 150, 190, 300, 30))
-                    self.click(middle, 206)  # of three dots the second
+                    press(middle, 206)  # of three dots the second
                     island.wait_for("Page", "weather")
                 self.desktop.screen.until_still((middle - 300, 0, 600, 200))
-                self.click(middle, 120)
+                press(middle, 120)
                 self.desktop.run("xdotool", "type", "--delay", "30", text)
 
             def asked_for(text):
@@ -99,7 +103,7 @@ class MannersTest(DesktopTest):
 
             type_in_island("Lisbo")
             wait_until(lambda: asked_for("Lisbo"), 5, "the second search")
-            self.click(middle - 500, 300)  # the user turns to the neighbour
+            press(middle - 500, 300)  # the user turns to the neighbour
             self.desktop.run("xdotool", "key", "c")
             wait_until(lambda: self.count("KeyPress") == keys + 2, 3, "the key after the click")
             island.wait_until_collapsed()
