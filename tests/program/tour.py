@@ -20,10 +20,10 @@ from wayland import WaylandDesktop
 from weather import WeatherServers, forecast
 
 STRIP = 300  # logical units of the screen's top that a screenshot shows
-PAGES = ("main", "weather", "system", "fileTray")
+PAGES = ("main", "weather", "system", "fileTray", "timer")
 SETTINGS = {
     "autoCollapseDelay": 0.7, "showFileTray": True, "idleActivityMostRecent": True, "enableClaudeCode": True,
-    "batteryHUDDuration": 2.0,
+    "batteryHUDDuration": 2.0, "enablePomodoro": True, "enableCountdownTimer": True,
 }  # fmt: skip
 
 
@@ -217,6 +217,48 @@ class Tour:
         self.turn_to("main")
         self.leave()
 
+    def timers(self):
+        self.open()
+        self.turn_to("timer")
+        self.settled("timer-focus")
+        self.press(-80, 141)  # Start
+        time.sleep(2)
+        self.shoot("timer-focus-running")
+        self.press(-3, 52)  # Countdown
+        self.settled("timer-countdown")
+        self.press(197, 96)  # another length
+        for text, name in (("soon", "refused"), ("1:02:03", "running")):
+            time.sleep(0.4)
+            self.desktop.run("xdotool", "key", "ctrl+a", "type", "--delay", "30", text)
+            self.desktop.run("xdotool", "key", "Return")
+            time.sleep(0.6)
+            self.shoot(f"timer-countdown-{name}")
+        self.press(83, 52)  # Stopwatch
+        self.settled("timer-stopwatch")
+        self.turn_to("main")
+        self.leave()
+        time.sleep(0.8)
+        self.shoot("timer-wings")
+        self.island.ctl("action", "stop-pomodoro")
+        self.island.wait_until_collapsed()
+        time.sleep(0.8)
+        self.shoot("timer-wings-with-hours")
+        self.island.ctl("action", "stop-countdown")
+        self.island.wait_until_collapsed()
+        self.open()
+        self.turn_to("timer")
+        self.press(-3, 52)
+        time.sleep(0.4)
+        self.press(197, 96)
+        time.sleep(0.4)
+        self.desktop.run("xdotool", "type", "--delay", "30", "4s")
+        self.desktop.run("xdotool", "key", "Return")
+        self.turn_to("main")
+        self.point(0, 600)
+        wait_until(lambda: self.island.hud().get("title") == "Timer Complete", 15, "the end of the countdown")
+        self.settled("timer-complete")
+        self.island.wait_until_collapsed(timeout=10)
+
     def battery(self, battery):
         """Plugged in and out, down to one warning and no second, armed again by the charger."""
         for percent, plugged_in, name in (
@@ -399,6 +441,7 @@ def visit(album, build, look, scale, kind=PrivateDesktop):
             tour.brightness(backlight)
             tour.weather(servers)
             tour.system()
+            tour.timers()
             if (look, scale) in (("dark", 1), ("light", 2)):
                 tour.battery(battery)
                 tour.headset()
