@@ -13,8 +13,9 @@ set(layer_nowplaying island log settings platform events)
 set(layer_claude     log platform)
 set(layer_weather    island log settings platform events)
 set(layer_tools      island log settings platform events)
-set(layer_app        nowplaying weather tools island monitors claude log settings platform events)
-set(layer_views      app weather tools island claude log settings platform events)
+set(layer_messages   island log settings platform events)
+set(layer_app        nowplaying weather messages tools island monitors claude log settings platform events)
+set(layer_views      app weather messages tools island claude log settings platform events)
 set(layer_linux      platform events)
 
 # What a layer of logic may take from outside: no bus, no widgets, no scene graph.
@@ -23,7 +24,8 @@ set(outside_claude   ${outside_logic} nlohmann_json::nlohmann_json)
 set(outside_views    Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick Qt6::Svg tl::expected)
 set(outside_linux    Qt6::Core Qt6::Gui Qt6::GuiPrivate Qt6::DBus Qt6::Network tl::expected nlohmann_json::nlohmann_json
                      PkgConfig::PULSE PkgConfig::WAYLAND PkgConfig::XCB PkgConfig::UDEV
-                     PkgConfig::DBUS PkgConfig::LZ4 PkgConfig::CANBERRA qt6keychain)
+                     PkgConfig::DBUS PkgConfig::LZ4 PkgConfig::CANBERRA PkgConfig::SQLITE
+                     PkgConfig::GMIME qt6keychain)
 
 # quillmere_library(<target> LAYER <layer> FOLDER <folder below src> [SOURCES ...] [HEADERS ...] [LINK ...])
 function(quillmere_library target)

@@ -27,6 +27,11 @@ inline constexpr QLatin1StringView spotifyURL("spotify-url");
 /// Arguments: latitude and longitude in degrees. The nearest city, and a line below the place it
 /// was found by; empty if none is near.
 inline constexpr QLatin1StringView placeName("place-name");
+/// How much unread mail there is, then message id, subject and sender of the newest unread one, a
+/// line each; a fifth line, if there is one, tells when it arrived, in seconds since 1970. "0" if
+/// there is none, or "error: " and why it cannot be told. With the argument "--source": where it
+/// looks, a line for each place.
+inline constexpr QLatin1StringView unreadMail("unread-mail");
 } // namespace scripts
 
 struct ScriptAnswer {

@@ -55,6 +55,10 @@ inline constexpr QLatin1StringView stopCircle{"stop.circle"};
 inline constexpr QLatin1StringView xmarkCircle{"xmark.circle"};
 inline constexpr QLatin1StringView capsule{"capsule"};
 
+inline constexpr QLatin1StringView bubbles{"bubble.left.and.bubble.right.fill"};
+inline constexpr QLatin1StringView numberSign{"number"};
+inline constexpr QLatin1StringView envelope{"envelope.fill"};
+
 inline constexpr std::array all{
     pencil,     timer,           hourglass,    stopwatch,    stopCircle,     xmarkCircle,
     capsule,    arrowDownCircle, chevronLeft,  chevronRight, xmark,          checkmark,
@@ -62,6 +66,7 @@ inline constexpr std::array all{
     headphones, hifispeaker,     car,          tv,           sunMax,         battery0,
     battery25,  battery50,       battery75,    battery100,   battery100Bolt, trayAndArrowDown,
     island,     playFill,        pauseFill,    backwardFill, forwardFill,    shuffle,
-    repeat,     heart,           docOnDoc,     musicNote,    playCircle,     magnifyingGlass};
+    repeat,     heart,           docOnDoc,     musicNote,    playCircle,     magnifyingGlass,
+    bubbles,    numberSign,      envelope};
 
 } // namespace quillmere::symbols
