@@ -38,6 +38,22 @@ public:
         daemon_.waitForFinished();
     }
 
+    /// Starts it anew, at the same address.
+    void start()
+    {
+        daemon_.setStandardErrorFile(QProcess::nullDevice());
+        daemon_.start(
+            QStringLiteral("dbus-daemon"),
+            {QStringLiteral("--config-file=") + directory_.filePath(QStringLiteral("bus.conf")),
+             QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
+             QStringLiteral("--nosyslog"), QStringLiteral("--print-address=1")});
+        while (!daemon_.canReadLine()) {
+            if (!daemon_.waitForReadyRead())
+                throw std::runtime_error("dbus-daemon does not start");
+        }
+        address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
+    }
+
     const QString &address() const { return address_; }
 
     /// Has the bus start `command` when someone calls `name`.
@@ -64,21 +80,6 @@ private:
         QFile file(directory_.filePath(name));
         if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0)
             throw std::runtime_error("cannot configure the bus");
-    }
-
-    void start()
-    {
-        daemon_.setStandardErrorFile(QProcess::nullDevice());
-        daemon_.start(
-            QStringLiteral("dbus-daemon"),
-            {QStringLiteral("--config-file=") + directory_.filePath(QStringLiteral("bus.conf")),
-             QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-             QStringLiteral("--nosyslog"), QStringLiteral("--print-address=1")});
-        while (!daemon_.canReadLine()) {
-            if (!daemon_.waitForReadyRead())
-                throw std::runtime_error("dbus-daemon does not start");
-        }
-        address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
     }
 
     QTemporaryDir directory_;
