@@ -10,4 +10,8 @@ namespace quillmere {
 /// the reader up, whatever it is.
 std::optional<std::string> readFile(const std::string &path, std::size_t limit);
 
+/// The same of as much of it as there is, from the beginning or the end.
+std::optional<std::string> readBeginning(const std::string &path, std::size_t limit);
+std::optional<std::string> readEnd(const std::string &path, std::size_t limit);
+
 } // namespace quillmere
