@@ -28,4 +28,7 @@ std::optional<UnreadMessages> askNotmuch();
 /// file was written. Microseconds since 1970.
 std::int64_t arrivalOf(const std::string &path);
 
+/// When a file was written last, in microseconds since 1970; zero if it is gone.
+std::int64_t writtenAt(const std::string &path);
+
 } // namespace quillmere

@@ -94,10 +94,15 @@ std::int64_t arrivalOf(const std::string &path)
                    isKnown ? leadingNumber(std::string_view(name).substr(fraction + 2)) : 0, 0,
                    second - 1);
     }
+    return writtenAt(path);
+}
+
+std::int64_t writtenAt(const std::string &path)
+{
     struct stat status;
     if (::stat(path.c_str(), &status) != 0)
         return 0;
-    return status.st_mtim.tv_sec * second + status.st_mtim.tv_nsec / 1000;
+    return status.st_mtim.tv_sec * 1'000'000 + status.st_mtim.tv_nsec / 1000;
 }
 
 UnreadMessages readMaildir(const std::string &path, MailFlags flags)

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::size_t largestPart = 16UL * 1024 * 1024; // of the file that is read
 constexpr std::size_t longestHead = 64UL * 1024;
+constexpr std::int64_t second = 1'000'000; // microseconds
 constexpr std::string_view mark("From ");
 
 bool endsBlankLine(std::string_view text)
@@ -42,8 +43,7 @@ std::int64_t arrivalIn(std::string_view line)
     if (::strptime(date.c_str(), "%a %b %e %H:%M:%S %Y", &parts) == nullptr)
         return 0;
     parts.tm_isdst = -1;
-    // Some time in that second; an mbox is not to look older than a Maildir for being less exact.
-    return static_cast<std::int64_t>(std::mktime(&parts)) * 1'000'000 + 999'999;
+    return static_cast<std::int64_t>(std::mktime(&parts)) * second;
 }
 
 } // namespace
@@ -68,8 +68,10 @@ UnreadMessages readMbox(const std::string &path)
     const auto rest = std::min(line.size() + 1, newest.size());
     unread.newest = {arrivalIn(line), std::string(line),
                      std::string(newest.substr(rest, longestHead))};
-    if (unread.newest.arrival == 0)
-        unread.newest.arrival = arrivalOf(path);
+    // A Maildir tells it more exactly; so does the file, unless it has been written again since.
+    const std::int64_t written = writtenAt(path);
+    if (unread.newest.arrival == 0 || unread.newest.arrival == written - written % second)
+        unread.newest.arrival = written;
     return unread;
 }
 

@@ -70,6 +70,8 @@ QList<ParsedNotification> storedNotifications(const NotificationDatabase &databa
     return {};
 }
 
+NotificationCenterMonitor::Run::Run() = default;
+
 NotificationCenterMonitor::NotificationCenterMonitor(RunLoop &runLoop, SettingsStore &settings,
                                                      const NotificationDatabase &database,
                                                      NotificationFeed &feed, QString home)

@@ -57,6 +57,8 @@ public:
 private:
     /// What start() sets up; ending it releases the timer and drops a poll under way.
     struct Run {
+        Run();
+
         Task timer;
         Task feedListener; ///< while any application is watched
         Duration interval{};

@@ -75,6 +75,7 @@ struct UnreadMailTest : RealFiles, SettingsFixture {
         for (const char *name :
              {"MAIL", "MAILDIR", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "NOTMUCH_CONFIG"})
             qunsetenv(name);
+        qputenv("TZ", "UTC"); // what delivers here writes it into an mbox
         qputenv("HOME", directory.path().toUtf8());
         qputenv("MAIL", path(u"spool"_s).toUtf8());
         counting.runner.emplace(
