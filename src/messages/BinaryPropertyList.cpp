@@ -70,8 +70,8 @@ bool BinaryPropertyList::referencesAreSound(const Content &content) const
 std::uint64_t BinaryPropertyList::number(std::uint64_t at, std::uint64_t size) const
 {
     std::uint64_t value = 0;
-    for (std::uint64_t i = 0; i < size; ++i)
-        value = value << 8U | static_cast<unsigned char>(bytes_[static_cast<qsizetype>(at + i)]);
+    for (const std::uint64_t end = at + size; at < end; ++at)
+        value = value << 8U | static_cast<unsigned char>(bytes_[static_cast<qsizetype>(at)]);
     return value;
 }
 

@@ -63,10 +63,10 @@ QString chosenMailProgram()
 QString entryFile(const QStringList &names)
 {
     for (const QString &name : names) {
-        const QString file = name.isEmpty() || name.contains(u'/')
-                                 ? QString()
-                                 : QStandardPaths::locate(QStandardPaths::ApplicationsLocation,
-                                                          name + QStringLiteral(".desktop"));
+        QString file = name.isEmpty() || name.contains(u'/')
+                           ? QString()
+                           : QStandardPaths::locate(QStandardPaths::ApplicationsLocation,
+                                                    name + QStringLiteral(".desktop"));
         if (!file.isEmpty())
             return file;
     }

@@ -26,7 +26,7 @@ constexpr auto epoch = std::chrono::sys_days(std::chrono::January / 1 / 2001);
 
 QString sessionBusAddress()
 {
-    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
     if (!address.isEmpty() || !QFileInfo::exists(socket))
         return address;

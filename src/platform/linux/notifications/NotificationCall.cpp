@@ -24,7 +24,7 @@ QString bounded(const std::string &utf8)
 
 QString takeText(BusValues &values)
 {
-    const QString text = bounded(values.text());
+    QString text = bounded(values.text());
     values.next();
     return text;
 }
