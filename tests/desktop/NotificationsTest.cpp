@@ -7,7 +7,6 @@
 #include "platform/linux/notifications/MessageSender.h"
 #include "support/LogCapture.h"
 #include "support/MockService.h"
-#include "support/SettingsFixture.h"
 #include "support/XServer.h"
 
 #include <QDBusConnectionInterface>
@@ -27,11 +26,14 @@ using testing::IsEmpty;
 
 constexpr auto all = [](const QString &) { return true; };
 
+void run(const QString &program, const QStringList &arguments)
+{
+    EXPECT_EQ(QProcess::execute(program, arguments), 0) << qPrintable(program);
+}
+
 void python(const QStringList &arguments)
 {
-    EXPECT_EQ(QProcess::execute(u"/usr/bin/python3"_s,
-                                QStringList{QStringLiteral(DATABASE_TOOL)} + arguments),
-              0);
+    run(u"/usr/bin/python3"_s, QStringList{QStringLiteral(DATABASE_TOOL)} + arguments);
 }
 
 struct DatabaseTest : ServiceTest {
@@ -117,86 +119,65 @@ TEST_F(DatabaseTest, FilesThatCannotBeReadAreEmpty)
     ASSERT_TRUE(writer.waitForFinished());
     EXPECT_EQ(database.newestRows(good, all).size(), 50);
 
-    ASSERT_EQ(QProcess::execute(
-                  u"sqlite3"_s,
-                  {bad + u'2',
-                   u"CREATE TABLE app(app_id, identifier); CREATE VIEW record AS WITH RECURSIVE "
-                   "n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT 1 app_id, 2 uuid, i "
-                   "data, i delivered_date FROM n"_s}),
-              0);
+    run(u"sqlite3"_s,
+        {bad + u'2', u"CREATE TABLE app(app_id, identifier); CREATE VIEW record AS WITH RECURSIVE "
+                     "n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT 1 app_id, 2 uuid, i "
+                     "data, i delivered_date FROM n"_s});
     EXPECT_THAT(database.newestRows(bad + u'2', all), IsEmpty()) << "a query without an end";
 }
 
-TEST_F(DatabaseTest, ADatabaseMayVanishWhileItIsWatched)
+TEST_F(DatabaseTest, ADatabaseMayComeAndGo)
 {
-    QtRunLoop loop;
-    SettingsFixture fixture;
-    fixture.settings.showSlackHUD.set(true);
-    struct NoFeed : NotificationFeed {
-        Task onNotification(Listener) override { return {}; }
-    } feed;
-    NotificationCenterMonitor monitor(loop, fixture.settings, database, feed, directory.path());
+    const auto titles = [this] {
+        QStringList found;
+        for (const auto &each :
+             storedNotifications(database, directory.path(), {WatchedNotificationApp::Slack}))
+            found.append(each.title);
+        return found.join(u' ');
+    };
     const QString file =
         directory.filePath(u"Library/Group Containers/group.com.apple.usernoted/db2/db"_s);
-    QStringList texts;
-    const auto test = [&] {
-        texts.clear();
-        monitor.test(WatchedNotificationApp::Slack,
-                     [&](const QString &text) { texts.append(text.section(u' ', 0, 0)); });
-        EXPECT_TRUE(eventually([&] { return !texts.isEmpty(); }));
-        return texts.value(0);
-    };
-    EXPECT_EQ(test(), u"No"_s);
+    EXPECT_EQ(titles(), QString());
     QDir().mkpath(QFileInfo(file).path());
     QFile::copy(create(u"new"_s), file);
-    EXPECT_EQ(test(), u"Found"_s);
+    EXPECT_EQ(titles(), u"Ada"_s);
     python({u"add"_s, file, u"com.tinyspeck.slackmacgap"_s, u"Bob"_s, u"Hi"_s});
-    QString title;
-    monitor.onNewSlackNotification = [&](const QString &given, const auto &, const auto &) {
-        title = given;
-    };
-    EXPECT_EQ(test(), u"Found"_s);
-    EXPECT_EQ(title, u"Bob"_s);
+    EXPECT_EQ(titles(), u"Bob Ada"_s);
     QFile::remove(file);
-    EXPECT_EQ(test(), u"No"_s);
+    EXPECT_EQ(titles(), QString());
 }
 
 TEST(ChatMessageTest, SendersAreKnownByAnyOfTheirNames)
 {
-    const struct {
-        const char *appName, *desktopEntry, *body;
-        const char *expected; // application and text
-    } cases[] = {
-        {"Slack", "slack", "Hi", "slack Hi"},
-        {"Slack", "com.slack.Slack", "<b>Hi</b> &amp;lt; <3", "slack Hi &lt; <3"},
-        {"", "slack_slack", "", "slack"},
+    // Name of the program, of its desktop entry, text; the application and its text.
+    const std::tuple<const char *, const char *, const char *, const char *> cases[] = {
+        {"Slack", "slack", "Hi", "slackmacgap Hi"},
+        {"Slack", "com.slack.Slack", "<b>Hi</b> &amp;lt; <3", "slackmacgap Hi &lt; <3"},
+        {"", "slack_slack", "", "slackmacgap"},
         {"discord", "discord-canary", "a &lt;b&gt; c", "Discord a <b> c"},
         {"discord", "com.discordapp.Discord", " <a href=\"https://x.org\">x</a> ", "Discord x"},
         {"Vesktop", "dev.vencord.Vesktop", "Hi", "Discord Hi"},
-        {"Google Chrome", "google-chrome", "app.slack.com\n\nHi\nyou", "slack Hi\nyou"},
+        {"Google Chrome", "google-chrome", "app.slack.com\n\nHi\nyou", "slackmacgap Hi\nyou"},
         {"Chromium", "chromium", "<a href=\"https://discord.com/\">discord.com</a>\n\nHi",
          "Discord Hi"},
         {"Chromium", "org.chromium.Chromium", "Discord.com", "Discord"},
-        {"Slack", "chrome-abcdef-Default", "app.slack.com\n\nHi", "slack Hi"},
-        {"Chromium", "chromium", "evil.com\n\ndiscord.com", nullptr},
-        {"Chromium", "chromium", "notdiscord.com\n\nHi", nullptr},
-        {"Chromium", "chromium", "see discord.com\n\nHi", nullptr},
-        {"Mail", "org.gnome.Geary", "discord.com\n\nHi", nullptr},
-        {"Slackware Updates", "slackpkg", "Hi", nullptr},
-        {"Firefox", "firefox", "discord.com\n\nHi", nullptr},
+        {"Slack", "chrome-abcdef-Default", "app.slack.com\n\nHi", "slackmacgap Hi"},
+        {"Chromium", "chromium", "evil.com\n\ndiscord.com", ""},
+        {"Chromium", "chromium", "notdiscord.com\n\nHi", ""},
+        {"Chromium", "chromium", "see discord.com\n\nHi", ""},
+        {"Mail", "org.gnome.Geary", "discord.com\n\nHi", ""},
+        {"Slackware Updates", "slackpkg", "Hi", ""},
+        {"Firefox", "firefox", "discord.com\n\nHi", ""},
     };
-    for (const auto &each : cases) {
-        const auto message = chatMessage({.appName = QString::fromUtf8(each.appName),
-                                          .desktopEntry = QString::fromUtf8(each.desktopEntry),
-                                          .title = u"Ada"_s,
-                                          .body = QString::fromUtf8(each.body),
+    for (const auto &[appName, desktopEntry, body, expected] : cases) {
+        const auto message = chatMessage({.appName = QString::fromUtf8(appName),
+                                          .desktopEntry = QString::fromUtf8(desktopEntry),
+                                          .body = QString::fromUtf8(body),
                                           .hasMarkup = true});
-        ASSERT_EQ(message.has_value(), each.expected != nullptr) << each.body;
-        if (!message)
-            continue;
-        const QString app = message->appID.contains(u"slack"_s) ? u"slack"_s : u"Discord"_s;
-        EXPECT_EQ(QString(app + u' ' + message->body.value_or(QString())).trimmed(),
-                  QString::fromUtf8(each.expected));
+        const QString given =
+            !message ? QString()
+                     : message->appID.split(u'.').last() + u' ' + message->body.value_or(QString());
+        EXPECT_EQ(given.trimmed(), QString::fromUtf8(expected)) << body;
     }
     const auto page = chatMessage({.appName = u"Chromium"_s, .origin = u"app.slack.com"_s});
     EXPECT_TRUE(page && page->title == u"New message"_s && !page->body);
@@ -205,6 +186,7 @@ TEST(ChatMessageTest, SendersAreKnownByAnyOfTheirNames)
 struct FeedTest : ServiceTest {
     FeedTest()
     {
+        qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
         listener = feed.onNotification([this](const ParsedNotification &notification) {
             told.append(notification.appID + u'|' + notification.title + u'|' +
                         notification.body.value_or(u"-"_s));
@@ -220,24 +202,9 @@ struct FeedTest : ServiceTest {
     void startDunst()
     {
         display.emplace();
-        dunst.setProcessEnvironment(environment());
         dunst.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         dunst.start(u"dunst"_s, {u"-config"_s, u"/dev/null"_s});
         ASSERT_TRUE(eventually([&] { return client.interface()->isServiceRegistered(server); }));
-    }
-    QProcessEnvironment environment() const
-    {
-        auto variables = QProcessEnvironment::systemEnvironment();
-        variables.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address());
-        return variables;
-    }
-    void notifySend(const QStringList &arguments) const
-    {
-        QProcess program;
-        program.setProcessEnvironment(environment());
-        program.start(u"notify-send"_s, arguments);
-        EXPECT_TRUE(program.waitForFinished());
-        EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().data();
     }
     static void notify(const QDBusConnection &from, const QString &title, uint replaced = 0)
     {
@@ -283,7 +250,6 @@ TEST_F(FeedTest, MessagesAreSeenAndStillShown)
     ASSERT_TRUE(sees());
     const auto shown = [&] {
         QProcess control;
-        control.setProcessEnvironment(environment());
         control.start(u"dunstctl"_s, {u"count"_s, u"displayed"_s});
         control.waitForFinished();
         return control.readAll().trimmed().toInt();
@@ -292,13 +258,13 @@ TEST_F(FeedTest, MessagesAreSeenAndStillShown)
     const int before = shown();
     QElapsedTimer delay; // with the start and the end of the program that sends
     delay.start();
-    notifySend({u"-a"_s, u"Slack"_s, u"-h"_s, u"string:desktop-entry:slack"_s, u"Ada"_s,
-                u"Are we on for <b>six</b>?"_s});
+    run(u"notify-send"_s, {u"-a"_s, u"Slack"_s, u"-h"_s, u"string:desktop-entry:slack"_s, u"Ada"_s,
+                           u"Are we on for <b>six</b>?"_s});
     EXPECT_TRUE(eventually([&] { return told.size() == 1; }));
     RecordProperty("delayMs", static_cast<int>(delay.elapsed()));
-    notifySend({u"-a"_s, u"discord"_s, u"-h"_s, u"string:desktop-entry:com.discordapp.Discord"_s,
-                u"Bob (#general)"_s});
-    notifySend({u"-a"_s, u"Chat App"_s, u"Ada"_s, u"Slack is down"_s});
+    run(u"notify-send"_s, {u"-a"_s, u"discord"_s, u"-h"_s,
+                           u"string:desktop-entry:com.discordapp.Discord"_s, u"Bob (#general)"_s});
+    run(u"notify-send"_s, {u"-a"_s, u"Chat App"_s, u"Ada"_s, u"Slack is down"_s});
     settle();
     EXPECT_THAT(told, ElementsAre(u"com.tinyspeck.slackmacgap|Ada|Are we on for six?"_s,
                                   u"com.hnc.Discord|Bob (#general)|-"_s));
@@ -357,15 +323,11 @@ TEST_F(FeedTest, EvolutionTellsOfMail)
         evolution.onNewMail([&](const QString &sender, const QString &subject) {
             mail.append(sender + u'|' + subject);
         });
-    QProcess gdbus;
-    gdbus.setProcessEnvironment(environment());
-    gdbus.start(u"gdbus"_s,
-                {u"emit"_s, u"--session"_s, u"-o"_s, u"/org/gnome/evolution/mail/newmail"_s,
-                 u"-s"_s, u"org.gnome.evolution.mail.dbus.Signal.Newmail"_s, u"('Inbox',)"_s,
-                 u"('Inbox',)"_s, u"(uint32 2,)"_s, u"('msg_uid:17',)"_s,
-                 u"('msg_sender:Ada <ada@example.test>',)"_s, u"('msg_subject:Hello',)"_s});
+    run(u"gdbus"_s, {u"emit"_s, u"--session"_s, u"-o"_s, u"/org/gnome/evolution/mail/newmail"_s,
+                     u"-s"_s, u"org.gnome.evolution.mail.dbus.Signal.Newmail"_s, u"('Inbox',)"_s,
+                     u"('Inbox',)"_s, u"(uint32 2,)"_s, u"('msg_uid:17',)"_s,
+                     u"('msg_sender:Ada <ada@example.test>',)"_s, u"('msg_subject:Hello',)"_s});
     EXPECT_TRUE(eventually([&] { return !mail.isEmpty(); }));
-    gdbus.waitForFinished();
     EXPECT_THAT(mail, ElementsAre(u"Ada <ada@example.test>|Hello"_s));
 }
 

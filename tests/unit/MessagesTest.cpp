@@ -3,7 +3,6 @@
 #include "messages/NotificationCenterMonitor.h"
 #include "messages/NotificationPayload.h"
 
-#include "platform/Symbols.h"
 #include "support/FakeMedia.h"
 #include "support/FakeMessages.h"
 #include "support/LogCapture.h"
@@ -30,30 +29,29 @@ QByteArray payload(const char *name)
     return file.readAll();
 }
 
+QString line(const QString &title, const Text &subtitle, const Text &body)
+{
+    return title + u'/' + subtitle.value_or(u"-"_s) + u'/' + body.value_or(u"-"_s);
+}
+
 TEST(NotificationPayloadTest, BothLayoutsAreRead)
 {
-    const struct {
-        const char *name;
-        QString title;
-        Text subtitle, body;
-    } cases[] = {
-        {"request", u"Ada"_s, u"#general"_s, u"Are we on?"_s},
-        {"request_wide", u"Ада 🚀"_s, {}, u"א\u200f <b>é</b>\n\nx"_s},
-        {"request_untitled", u"New message"_s, u"sub"_s, u"text"_s},
-        {"request_wrong_types", u"New message"_s, {}, {}},
-        {"request_text", u"New message"_s, {}, {}},
-        {"archive", u"Ada"_s, u"Sub"_s, u"Body"_s},
-        {"archive_usual", u"Ada"_s, {}, u"Body"_s},
-        {"archive_uids", u"Two"_s, {}, u"Three"_s},
-        {"archive_astray", u"New message"_s, {}, {}},
-        {"archive_short", u"New message"_s, {}, {}},
-        {"empty", u"New message"_s, {}, {}},
-    };
-    for (const auto &each : cases) {
-        const ParsedNotification expected{u"app"_s,  each.title, each.subtitle,
-                                          each.body, u"id"_s,    7.5};
-        EXPECT_EQ(parsedNotification({u"app"_s, u"id"_s, payload(each.name), 7.5}), expected)
-            << each.name;
+    const std::pair<const char *, QString> cases[] = {
+        {"request", u"Ada/#general/Are we on?"_s},
+        {"request_wide", u"Ада 🚀/-/א\u200f <b>é</b>\n\nx"_s},
+        {"request_untitled", u"New message/sub/text"_s},
+        {"request_wrong_types", u"New message/-/-"_s},
+        {"request_text", u"New message/-/-"_s},
+        {"archive", u"Ada/Sub/Body"_s},
+        {"archive_usual", u"Ada/-/Body"_s},
+        {"archive_uids", u"Two/-/Three"_s},
+        {"archive_astray", u"New message/-/-"_s},
+        {"archive_short", u"New message/-/-"_s},
+        {"empty", u"New message/-/-"_s}};
+    for (const auto &[name, expected] : cases) {
+        const auto read = parsedNotification({u"app"_s, u"id"_s, payload(name), 7.5});
+        ASSERT_TRUE(read && read->appID == u"app"_s && read->uuid == u"id"_s) << name;
+        EXPECT_EQ(line(read->title, read->subtitle, read->body), expected);
     }
 }
 
@@ -75,8 +73,7 @@ struct NotificationMonitorTest : testing::Test, SettingsFixture {
         settings.showDiscordHUD.set(true);
         const auto record = [this](const QString &app) {
             return [this, app](const QString &title, const Text &subtitle, const Text &body) {
-                told.append(app + u':' + title + u'/' + subtitle.value_or(u"-"_s) + u'/' +
-                            body.value_or(u"-"_s));
+                told.append(app + u':' + line(title, subtitle, body));
             };
         };
         monitor.onNewSlackNotification = record(u"Slack"_s);
@@ -149,21 +146,18 @@ TEST_F(NotificationMonitorTest, TheSecondFileIsReadWhenTheFirstHasNothing)
 
 TEST_F(NotificationMonitorTest, TheSmallestIntervalOfWatchedAppsCounts)
 {
-    const struct {
-        bool slack, discord;
-        double slackInterval, discordInterval;
-        Duration expected;
-    } cases[] = {{true, true, 3, 10, 5s},
-                 {true, true, 20, 10, 10s},
-                 {true, false, 20, 10, 20s},
-                 {false, false, 20, 10, 5s},
-                 {true, true, std::nan(""), -1, 5s}};
-    for (const auto &each : cases) {
-        settings.showSlackHUD.set(each.slack);
-        settings.showDiscordHUD.set(each.discord);
-        settings.slackPollInterval.set(each.slackInterval);
-        settings.discordPollInterval.set(each.discordInterval);
-        EXPECT_EQ(notificationPollInterval(settings), each.expected);
+    const std::tuple<bool, bool, double, double, Duration> cases[] = {
+        {true, true, 3, 10, 5s},
+        {true, true, 20, 10, 10s},
+        {true, false, 20, 10, 20s},
+        {false, false, 20, 10, 5s},
+        {true, true, std::nan(""), -1, 5s}};
+    for (const auto &[slack, discord, slackInterval, discordInterval, expected] : cases) {
+        settings.showSlackHUD.set(slack);
+        settings.showDiscordHUD.set(discord);
+        settings.slackPollInterval.set(slackInterval);
+        settings.discordPollInterval.set(discordInterval);
+        EXPECT_EQ(notificationPollInterval(settings), expected);
     }
 }
 
@@ -296,27 +290,21 @@ TEST_F(EmailMonitorTest, MailThatComesIsAnnounced)
     EXPECT_EQ(runner.calls.size(), 1);
     loop.advance(6s);
     EXPECT_EQ(runner.calls.size(), 2);
-    const struct {
-        QByteArray output;
-        QStringList announced;
-    } polls[] = {
+    const std::pair<const char *, QString> polls[] = {
         {"2\nb\nOld\nAda", {}},
-        {"3\r\n c \r\n Hi there \r\n Bob \r\n", {u"Bob/Hi there/"_s}},
+        {"3\r\n c \r\n Hi there \r\n Bob \r\n", u"Bob/Hi there/"_s},
         {"2\nc\nHi there\nBob", {}},
-        {"2\nd\nOther\nBob", {u"Bob/Other/"_s}},
-        {"3\nd\nOther\nBob", {u"Bob/Other/"_s}},
+        {"2\nd\nOther\nBob", u"Bob/Other/"_s},
+        {"3\nd\nOther\nBob", u"Bob/Other/"_s},
         {"error: Mail got an error", {}},
         {"nonsense", {}},
-        {"", {}},
         {"0", {}},
-        {"1\ne\n\nCy", {u"Cy//"_s}},
-        {"0", {}},
-    };
-    for (const auto &poll : polls)
-        EXPECT_EQ(after(poll.output), poll.announced) << poll.output.data();
+        {"1\ne\n\nCy", u"Cy//"_s},
+        {"0", {}}};
+    for (const auto &[output, announced] : polls)
+        EXPECT_EQ(after(output).join(u' '), announced) << output;
     EXPECT_THAT(log.take(), testing::ElementsAre(
                                 u"[EmailMonitor] Script failed: error: Mail got an error"_s,
-                                u"[EmailMonitor] Script did not tell how much mail is unread"_s,
                                 u"[EmailMonitor] Script did not tell how much mail is unread"_s));
 
     settings.showEmailHUD.set(false);
@@ -357,34 +345,21 @@ TEST_F(EmailMonitorTest, ASignalAndAPollAnnounceMailOnce)
 
 TEST(MessageHUDTest, SaysWhoWroteAndWhat)
 {
-    const struct {
-        HUDContent hud;
-        QString title;
-        Text subtitle;
-        QLatin1StringView icon;
-        QString bundleID;
-    } cases[] = {
-        {messageHUD(WatchedNotificationApp::Slack, u"Ada"_s, u"#general"_s, u"<b>Hi</b>"_s),
-         u"Ada"_s, u"#general · <b>Hi</b>"_s, symbols::numberSign, u"com.tinyspeck.slackmacgap"_s},
-        {messageHUD(WatchedNotificationApp::Discord, u" "_s, u""_s, {}),
-         u"Discord"_s,
-         {},
-         symbols::bubbles,
-         u"com.hnc.Discord"_s},
-        {messageHUD(WatchedNotificationApp::Discord, u"🚀"_s, {}, u"שלום"_s), u"🚀"_s, u"שלום"_s,
-         symbols::bubbles, u"com.hnc.Discord"_s},
-        {emailHUD(u"\"Ada L.\" <ada@example.org>"_s, u"Hello"_s), u"Hello"_s, u"Ada L."_s,
-         symbols::envelope, u"com.apple.mail"_s},
-        {emailHUD(u"\"\" <ada@example.org>"_s, u" "_s, u"note"_s), u"New email"_s,
-         u"ada@example.org · note"_s, symbols::envelope, u"com.apple.mail"_s},
-        {emailHUD(u"<"_s, {}), u"New email"_s, {}, symbols::envelope, u"com.apple.mail"_s},
-    };
-    for (const auto &each : cases) {
-        EXPECT_EQ(each.hud.title, each.title);
-        EXPECT_EQ(each.hud.subtitle, each.subtitle);
-        EXPECT_EQ(each.hud.icon, each.icon);
-        EXPECT_EQ(each.hud.bundleID, each.bundleID);
-    }
+    using enum WatchedNotificationApp;
+    const std::pair<HUDContent, QString> cases[] = {
+        {messageHUD(Slack, u"Ada"_s, u"#general"_s, u"<b>Hi</b>"_s),
+         u"Ada/#general · <b>Hi</b>/number/com.tinyspeck.slackmacgap"_s},
+        {messageHUD(Discord, u" "_s, u""_s, {}),
+         u"Discord/-/bubble.left.and.bubble.right.fill/com.hnc.Discord"_s},
+        {messageHUD(Discord, u"🚀"_s, {}, u"שלום"_s),
+         u"🚀/שלום/bubble.left.and.bubble.right.fill/com.hnc.Discord"_s},
+        {emailHUD(u"\"Ada L.\" <ada@example.org>"_s, u"Hello"_s),
+         u"Hello/Ada L./envelope.fill/com.apple.mail"_s},
+        {emailHUD(u"\"\" <ada@example.org>"_s, u" "_s, u"note"_s),
+         u"New email/ada@example.org · note/envelope.fill/com.apple.mail"_s},
+        {emailHUD(u"<"_s, {}), u"New email/-/envelope.fill/com.apple.mail"_s}};
+    for (const auto &[hud, expected] : cases)
+        EXPECT_EQ(line(hud.title, hud.subtitle, hud.icon) + u'/' + hud.bundleID.value(), expected);
 }
 
 } // namespace
