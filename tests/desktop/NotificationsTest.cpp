@@ -39,7 +39,7 @@ void python(const QStringList &arguments)
 struct DatabaseTest : ServiceTest {
     QString create(const QString &schema, int rows = 0)
     {
-        const QString file = directory.filePath(schema + QString::number(rows));
+        QString file = directory.filePath(schema + QString::number(rows));
         python({u"database"_s, file, schema, QString::number(rows)});
         return file;
     }
