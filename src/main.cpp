@@ -1,5 +1,6 @@
 #include "app/MediaPlayback.h"
 #include "app/QuillmereApp.h"
+#include "platform/ApplicationLauncher.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/core/QtRunLoop.h"
 #include "platform/linux/core/UnixSignals.h"
@@ -77,6 +78,9 @@ private:
                            services.appearance);
         const auto openLink = [](const QUrl &link) { QDesktopServices::openUrl(link); };
         QObject::connect(&*model_, &IslandModel::linkActivated, openLink);
+        QObject::connect(
+            &*model_, &IslandModel::applicationWanted,
+            [&services](const QString &bundleID) { services.applicationLauncher.open(bundleID); });
         QObject::connect(&*dashboard_, &DashboardModel::linkActivated, openLink);
         QObject::connect(&*model_, &IslandModel::dragOverChanged,
                          [&delegate](bool over) { delegate.islandDragChanged(over); });

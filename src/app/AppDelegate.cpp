@@ -7,6 +7,7 @@
 #include "app/FileDrop.h"
 #include "app/FileTray.h"
 #include "app/MediaPlayback.h"
+#include "app/Messages.h"
 #include "app/PowerAlerts.h"
 #include "app/SettingSubscription.h"
 #include "app/StatusMenu.h"
@@ -148,6 +149,8 @@ void AppDelegate::createIsland()
     };
     const auto isSuppressed = [this] { return hudsAreSuppressed(); };
     powerAlerts_ = std::make_unique<PowerAlerts>(platform_, settings_, hudManager_, isSuppressed);
+    messages_ = std::make_unique<Messages>(platform_, settings_, hudManager_, QDir::homePath(),
+                                           isSuppressed);
     weather_ =
         std::make_unique<WeatherReports>(WeatherTools{.runLoop = platform_.runLoop,
                                                       .locationManager = platform_.locationManager,
@@ -173,8 +176,10 @@ void AppDelegate::createMonitors()
     powerAlerts_->start();
     weather_->start();
     createAudioOutputMonitor();
-    systemLoad_->start();
+    messages_->startMail();
+    messages_->startNotifications();
     startClaudeCode();
+    systemLoad_->start();
 }
 
 void AppDelegate::createVolumeMonitor()
@@ -361,10 +366,12 @@ void AppDelegate::applicationWillTerminate()
         outputPicker_->stop();
     outputAvailability_.cancel();
     soundServerChanged(false);
-    if (systemLoad_)
-        systemLoad_->stop();
+    if (messages_)
+        messages_->stop();
     if (claudeCode_)
         claudeCode_->stop();
+    if (systemLoad_)
+        systemLoad_->stop();
     if (media_)
         media_->stop();
     if (timers_)

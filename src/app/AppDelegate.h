@@ -27,6 +27,7 @@ class IdleWings;
 class IslandDebugLogger;
 class IslandGestures;
 class MediaPlayback;
+class Messages;
 class PowerAlerts;
 class SettingsStore;
 class SystemLoad;
@@ -130,6 +131,7 @@ private:
     std::unique_ptr<MediaPlayback> media_;
     std::unique_ptr<ClaudeCodeMonitor> claudeCode_;
     std::unique_ptr<Timers> timers_;
+    std::unique_ptr<Messages> messages_;
     std::unique_ptr<PowerAlerts> powerAlerts_;
     std::unique_ptr<WeatherReports> weather_;
     std::unique_ptr<SystemLoad> systemLoad_;

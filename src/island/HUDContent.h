@@ -50,6 +50,12 @@ inline bool isLevel(HUDContent::HUDType type)
     return type == HUDContent::HUDType::Volume || type == HUDContent::HUDType::Brightness;
 }
 
+/// Somebody wrote; its bundleID is the application to answer in.
+inline bool isMessage(HUDContent::HUDType type)
+{
+    return type == HUDContent::HUDType::Email || type == HUDContent::HUDType::Notification;
+}
+
 /// The speaker symbol for a volume of 0..100 percent.
 QLatin1StringView volumeSymbol(double percent);
 

@@ -3,6 +3,7 @@
 namespace quillmere {
 
 class Appearance;
+class ApplicationLauncher;
 class AudioHardware;
 class AudioStreams;
 class BluetoothBatteries;
@@ -20,7 +21,10 @@ class LoginItem;
 class LowPowerMode;
 class MediaRemote;
 class MessageSocketServer;
+class NewMailSignal;
 class NotificationCenter;
+class NotificationDatabase;
+class NotificationFeed;
 class PanelWindow;
 class PowerSources;
 class Reachability;
@@ -72,6 +76,10 @@ struct Platform {
     Geocoder &geocoder;
     Keychain &keychain;
     Reachability &reachability;
+    NotificationDatabase &notificationDatabase;
+    NotificationFeed &notificationFeed;
+    NewMailSignal &newMailSignal;
+    ApplicationLauncher &applicationLauncher;
     StatePublisher &statePublisher;
     RemoteControl &remoteControl;
     ShortcutPublisher &shortcutPublisher;

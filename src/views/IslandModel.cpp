@@ -129,12 +129,17 @@ void IslandModel::press()
 {
     const auto &hud = contentView_.shownHUD();
     const QUrl link = openableLink(hud ? hud->contentURL : std::nullopt);
-    if (link.isEmpty()) {
+    const QString application =
+        hud && isMessage(hud->type) ? hud->bundleID.value_or(QString()) : QString();
+    if (link.isEmpty() && application.isEmpty()) {
         panel_.mouseDown();
         return;
     }
     contentView_.dismissHUD();
-    Q_EMIT linkActivated(link);
+    if (!link.isEmpty())
+        Q_EMIT linkActivated(link);
+    else
+        Q_EMIT applicationWanted(application);
 }
 
 void IslandModel::hover(bool inside)

@@ -85,8 +85,8 @@ public:
     FaceModel *wings() { return &wings_; }
     QString accessibleText() const;
 
-    /// A press on the island that no control took: opens the link of the HUD on show, or else is a
-    /// tap.
+    /// A press on the island that no control took: opens the link of the HUD on show or the
+    /// application a message is from, or else is a tap.
     Q_INVOKABLE void press();
 
     /// The pointer came over the island or left it.
@@ -112,6 +112,8 @@ Q_SIGNALS:
     void surfaceChanged();
     void wingsChanged();
     void linkActivated(const QUrl &link);
+    /// The application whose message was pressed.
+    void applicationWanted(const QString &bundleID);
     void dragOverChanged(bool over);
     void filesDropped(const QList<QUrl> &files);
 

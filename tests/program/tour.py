@@ -253,11 +253,13 @@ class Tour:
         time.sleep(0.4)
         self.desktop.run("xdotool", "type", "--delay", "30", "4s")
         self.desktop.run("xdotool", "key", "Return")
-        self.turn_to("main")
         self.point(0, 600)
         wait_until(lambda: self.island.hud().get("title") == "Timer Complete", 15, "the end of the countdown")
         self.settled("timer-complete")
         self.island.wait_until_collapsed(timeout=10)
+        self.open()
+        self.turn_to("main")
+        self.leave()
 
     def battery(self, battery):
         """Plugged in and out, down to one warning and no second, armed again by the charger."""

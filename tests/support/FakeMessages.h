@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ApplicationLauncher.h"
 #include "platform/Listeners.h"
 #include "platform/NewMailSignal.h"
 #include "platform/NotificationDatabase.h"
@@ -39,6 +40,15 @@ struct FakeNotificationFeed : NotificationFeed {
 struct FakeNewMailSignal : NewMailSignal {
     Task onNewMail(Listener listener) override { return listeners.add(std::move(listener)); }
     Listeners<const QString &, const QString &> listeners;
+};
+
+struct FakeApplicationLauncher : ApplicationLauncher {
+    bool open(const QString &bundleID) override
+    {
+        opened.append(bundleID);
+        return true;
+    }
+    QStringList opened;
 };
 
 } // namespace quillmere

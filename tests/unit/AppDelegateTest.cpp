@@ -22,6 +22,7 @@
 #include "support/FakeLoginItem.h"
 #include "support/FakeMedia.h"
 #include "support/FakeMessageSocketServer.h"
+#include "support/FakeMessages.h"
 #include "support/FakePanelWindow.h"
 #include "support/FakePowerSources.h"
 #include "support/FakeScreens.h"
@@ -122,12 +123,49 @@ protected:
     FakeGeocoder geocoder{runLoop};
     FakeKeychain keychain{runLoop};
     FakeReachability reachability;
-    Platform platform{
-        runLoop,  notifications, defaults,       local,        cloud, loginItem, screens,
-        window,   globalEvents,  dragPasteboard, applications, audio, streams,   batteries,
-        display,  haptics,       appearance,     statusItem,   http,  scripts,   mediaRemote,
-        socket,   files,         power,          lowPowerMode, host,  alerts,    sound,
-        location, geocoder,      keychain,       reachability, state, remote,    desktop};
+    FakeNotificationDatabase notificationDatabase;
+    FakeNotificationFeed notificationFeed;
+    FakeNewMailSignal newMailSignal;
+    FakeApplicationLauncher launcher;
+    Platform platform{runLoop,
+                      notifications,
+                      defaults,
+                      local,
+                      cloud,
+                      loginItem,
+                      screens,
+                      window,
+                      globalEvents,
+                      dragPasteboard,
+                      applications,
+                      audio,
+                      streams,
+                      batteries,
+                      display,
+                      haptics,
+                      appearance,
+                      statusItem,
+                      http,
+                      scripts,
+                      mediaRemote,
+                      socket,
+                      files,
+                      power,
+                      lowPowerMode,
+                      host,
+                      alerts,
+                      sound,
+                      location,
+                      geocoder,
+                      keychain,
+                      reachability,
+                      notificationDatabase,
+                      notificationFeed,
+                      newMailSignal,
+                      launcher,
+                      state,
+                      remote,
+                      desktop};
     QTemporaryDir library;
     AudioDeviceID speakers = 0;
     int terminations = 0;
@@ -227,6 +265,31 @@ TEST_F(AppDelegateTest, TheLoadIsSampledWhileTheSettingIsOn)
     app->settings().showSystemMonitor.set(true);
     runLoop.advance(4s);
     EXPECT_EQ(published().value(QStringLiteral("memoryUsage")), 25.0);
+}
+
+TEST_F(AppDelegateTest, MessagesAndMailAreShownAsFarAsTheyAreWanted)
+{
+    launch();
+    const ParsedNotification chat{.appID = QStringLiteral("com.slack.Slack"),
+                                  .title = QStringLiteral("Ada"),
+                                  .body = QStringLiteral("Six?"),
+                                  .uuid = QStringLiteral("1")};
+    notificationFeed.listeners.notify(chat);
+    newMailSignal.listeners.notify(QStringLiteral("Ada <a@b>"), QStringLiteral("Lunch?"));
+    EXPECT_FALSE(showsHUD()) << "both are off";
+
+    app->settings().showSlackHUD.set(true);
+    runLoop.settle();
+    notificationFeed.listeners.notify(chat);
+    EXPECT_EQ(state.hud().value(QStringLiteral("title")), QStringLiteral("Ada"));
+    EXPECT_EQ(state.hud().value(QStringLiteral("type")), QStringLiteral("notification"));
+    app->settings().showEmailHUD.set(true);
+    newMailSignal.listeners.notify(QStringLiteral("Ada <a@b>"), QStringLiteral("Lunch?"));
+    EXPECT_EQ(state.hud().value(QStringLiteral("title")), QStringLiteral("Lunch?"));
+    EXPECT_EQ(state.hud().value(QStringLiteral("subtitle")), QStringLiteral("Ada"));
+    EXPECT_EQ(app->hudManager().hudQueue().size(), 2);
+    app->terminate();
+    EXPECT_TRUE(notificationFeed.listeners.isEmpty());
 }
 
 TEST_F(AppDelegateTest, WhatPlaysIsPublishedAndTakesCommands)

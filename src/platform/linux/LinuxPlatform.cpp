@@ -59,6 +59,8 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
     , locationManager_(runLoop)
     , geocoder_(scriptRunner_)
     , reachability_(runLoop)
+    , notificationFeed_(runLoop, sessionBusAddress())
+    , newMailSignal_(sessionBus(bus))
     , services_{runLoop,
                 notificationCenter_,
                 userDefaults_,
@@ -91,6 +93,10 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
                 geocoder_,
                 keychain_,
                 reachability_,
+                notificationDatabase_,
+                notificationFeed_,
+                newMailSignal_,
+                applicationLauncher_,
                 bus.statePublisher(),
                 bus.remoteControl(),
                 bus.shortcuts()}

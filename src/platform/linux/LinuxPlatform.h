@@ -11,6 +11,7 @@
 #include "platform/linux/audio/PulseAudioStreams.h"
 #include "platform/linux/bluetooth/BusBluetoothBatteries.h"
 #include "platform/linux/desktop/AutostartLoginItem.h"
+#include "platform/linux/desktop/DesktopLauncher.h"
 #include "platform/linux/desktop/FileUserDefaults.h"
 #include "platform/linux/desktop/FolderCloudStore.h"
 #include "platform/linux/desktop/LinuxUserFiles.h"
@@ -21,6 +22,9 @@
 #include "platform/linux/media/MprisMediaRemote.h"
 #include "platform/linux/net/QtHttpClient.h"
 #include "platform/linux/net/RouteReachability.h"
+#include "platform/linux/notifications/BusNotificationFeed.h"
+#include "platform/linux/notifications/EvolutionMail.h"
+#include "platform/linux/notifications/SqliteNotificationDatabase.h"
 #include "platform/linux/power/PowerProfiles.h"
 #include "platform/linux/power/UPowerSources.h"
 #include "platform/linux/scripts/ProcessScriptRunner.h"
@@ -76,6 +80,10 @@ private:
     HelperGeocoder geocoder_;
     SecretKeychain keychain_;
     RouteReachability reachability_;
+    SqliteNotificationDatabase notificationDatabase_;
+    BusNotificationFeed notificationFeed_;
+    EvolutionMail newMailSignal_;
+    DesktopLauncher applicationLauncher_;
     Platform services_;
 };
 

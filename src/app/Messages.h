@@ -1,0 +1,46 @@
+#pragma once
+
+#include "messages/EmailMonitor.h"
+#include "messages/NotificationCenterMonitor.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace quillmere {
+
+class HUDManager;
+struct HUDContent;
+struct Platform;
+class SettingsStore;
+
+/// Tells who wrote, in chat applications and by mail, as far as the settings want it. Main thread
+/// only.
+class Messages
+{
+public:
+    /// While `isSuppressed` there are no HUDs. `home` is where the user's files are.
+    Messages(Platform &platform, SettingsStore &settings, HUDManager &hudManager, QString home,
+             std::function<bool()> isSuppressed);
+
+    void startMail() { mail_.start(); }
+    void startNotifications() { notifications_.start(); }
+    void stop();
+
+    EmailMonitor &mail() { return mail_; }
+    NotificationCenterMonitor &notifications() { return notifications_; }
+
+private:
+    void settingChanged(const QString &key);
+    void restartNotifications();
+    void show(HUDContent hud, double duration);
+
+    SettingsStore &settings_;
+    HUDManager &hudManager_;
+    std::function<bool()> isSuppressed_;
+    EmailMonitor mail_;
+    NotificationCenterMonitor notifications_;
+    QObject context_;
+};
+
+} // namespace quillmere
