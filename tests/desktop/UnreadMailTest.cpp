@@ -75,8 +75,10 @@ struct UnreadMailTest : testing::Test, SettingsFixture {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text);
     }
-    void deliver(QStringList arguments) const
+    /// Format, place, identifier, sender, subject and perhaps flags.
+    void deliver(const char *mail) const
     {
+        QStringList arguments = QString::fromUtf8(mail).split(u'|');
         QDir(home.path()).mkpath(QFileInfo(arguments.at(1)).path());
         arguments[1] = home.filePath(arguments.at(1));
         output(u"/usr/bin/python3"_s, QStringList{QStringLiteral(DELIVER)} + arguments);
@@ -108,35 +110,21 @@ TEST_F(UnreadMailTest, InboxesOfEveryFormat)
 {
     EXPECT_EQ(ask(), u"0"_s);
     EXPECT_EQ(ask({u"--source"_s}), QString());
-    const struct {
-        QStringList mail;
-        const char *unread, *source;
-    } steps[] = {
-        {{u"maildir"_s, u"Maildir"_s, u"1@x"_s, u"Ada <a@x>"_s, u"Seen"_s, u"FS"_s},
-         "0",
-         "Maildir: ~/Maildir"},
-        {{u"maildir"_s, u"Maildir"_s, u"2@x"_s, u"Ada <a@x>"_s, u"Flagged"_s, u"F"_s},
-         "1 2@x Flagged Ada <a@x>",
-         ""},
-        {{u"maildir"_s, u"Maildir/.Lists"_s, u"3@x"_s, u"Ada <a@x>"_s, u"Elsewhere"_s},
-         "1 2@x Flagged Ada <a@x>",
-         ""},
-        {{u"maildir"_s, u"Mail/work/INBOX"_s, u"4@x"_s, u"Bob <b@x>"_s, u"New"_s},
-         "2 4@x New Bob <b@x>",
+    const std::tuple<const char *, const char *, const char *> steps[] = {
+        {"maildir|Maildir|1@x|Ada <a@x>|Seen|FS", "0", "Maildir: ~/Maildir"},
+        {"maildir|Maildir|2@x|Ada <a@x>|Flagged|F", "1 2@x Flagged Ada <a@x>", ""},
+        {"maildir|Maildir/.Lists|3@x|Ada <a@x>|Elsewhere", "1 2@x Flagged Ada <a@x>", ""},
+        {"maildir|Mail/work/INBOX|4@x|Bob <b@x>|New", "2 4@x New Bob <b@x>",
          "Maildir: ~/Mail/work/INBOX"},
-        {{u"maildir"_s, u"Mail/work/Sent"_s, u"5@x"_s, u"Me <m@x>"_s, u"Sent"_s},
-         "2 4@x New Bob <b@x>",
-         ""},
-        {{u"maildir"_s, u".local/share/evolution/mail/local"_s, u"6@x"_s, u"Cy <c@x>"_s, u"Evo"_s},
-         "3 6@x Evo Cy <c@x>",
-         "Evolution: ~/.local/share/evolution/mail/local"},
-    };
+        {"maildir|Mail/work/Sent|5@x|Me <m@x>|Sent", "2 4@x New Bob <b@x>", ""},
+        {"maildir|.local/share/evolution/mail/local|6@x|Cy <c@x>|Evo", "3 6@x Evo Cy <c@x>",
+         "Evolution: ~/.local/share/evolution/mail/local"}};
     QStringList sources;
-    for (const auto &step : steps) {
-        deliver(step.mail);
-        if (*step.source)
-            sources.append(QString::fromUtf8(step.source));
-        EXPECT_EQ(unread(), QString::fromUtf8(step.unread)) << step.mail.at(4).toStdString();
+    for (const auto &[mail, expected, source] : steps) {
+        deliver(mail);
+        if (*source)
+            sources.append(QString::fromUtf8(source));
+        EXPECT_EQ(unread(), QString::fromUtf8(expected)) << mail;
         EXPECT_EQ(ask({u"--source"_s}), sources.join(u'\n'));
     }
 }
@@ -159,7 +147,7 @@ TEST_F(UnreadMailTest, ThunderbirdAndTheSpool)
     write(u".thunderbird/p.default/ImapMail/imap/INBOX/cur/1795258800000000.eml"_s,
           "X-Mozilla-Status: 0001\nSubject: In a Maildir\nFrom: b@x\n\n");
     EXPECT_EQ(unread(), u"1 1@x Unread Ada <a@x>"_s);
-    deliver({u"mbox"_s, u"spool"_s, u"7@x"_s, u"Root <r@x>"_s, u"Read"_s, u"RO"_s});
+    deliver("mbox|spool|7@x|Root <r@x>|Read|RO");
     EXPECT_EQ(unread(), u"1 1@x Unread Ada <a@x>"_s);
     EXPECT_EQ(ask({u"--source"_s}), u"Thunderbird: ~/.thunderbird/p.default/Mail/pop/Inbox\n"
                                     "Thunderbird: ~/.thunderbird/p.default/ImapMail/imap/INBOX\n"
@@ -170,8 +158,8 @@ TEST_F(UnreadMailTest, ThunderbirdAndTheSpool)
 
 TEST_F(UnreadMailTest, NotmuchIsAskedWhereItIsSetUp)
 {
-    deliver({u"maildir"_s, u"Mail/INBOX"_s, u"1@x"_s, u"Ada <a@x>"_s, u"Tagged"_s});
-    deliver({u"maildir"_s, u"Mail/INBOX"_s, u"2@x"_s, u"Bob <b@x>"_s, u"Seen"_s, u"S"_s});
+    deliver("maildir|Mail/INBOX|1@x|Ada <a@x>|Tagged");
+    deliver("maildir|Mail/INBOX|2@x|Bob <b@x>|Seen|S");
     write(u".notmuch-config"_s,
           "[database]\npath=" + home.filePath(u"Mail"_s).toUtf8() +
               "\n[new]\ntags=unread;inbox\n[maildir]\nsynchronize_flags=true\n");
@@ -185,14 +173,14 @@ TEST_F(UnreadMailTest, NotmuchIsAskedWhereItIsSetUp)
 
 TEST_F(UnreadMailTest, MailThatComesWhileWeRunIsAnnouncedOnce)
 {
-    deliver({u"maildir"_s, u"Maildir"_s, u"1@x"_s, u"Ada <a@x>"_s, u"Old"_s});
-    deliver({u"mbox"_s, u"spool"_s, u"2@x"_s, u"Ada <a@x>"_s, u"Old too"_s});
+    deliver("maildir|Maildir|1@x|Ada <a@x>|Old");
+    deliver("mbox|spool|2@x|Ada <a@x>|Old too");
     monitor.start();
     EXPECT_THAT(afterPoll(), IsEmpty());
-    deliver({u"maildir"_s, u"Maildir"_s, u"3@x"_s, u"=?utf-8?B?QWTDoQ==?= <a@x>"_s, u"Hi"_s});
+    deliver("maildir|Maildir|3@x|=?utf-8?B?QWTDoQ==?= <a@x>|Hi");
     EXPECT_THAT(afterPoll(), ElementsAre(u"Adá <a@x>|Hi"_s));
     EXPECT_THAT(afterPoll(), IsEmpty());
-    deliver({u"mbox"_s, u"spool"_s, u"4@x"_s, u"Bob <b@x>"_s, u"From the spool"_s});
+    deliver("mbox|spool|4@x|Bob <b@x>|From the spool");
     EXPECT_THAT(afterPoll(), ElementsAre(u"Bob <b@x>|From the spool"_s));
     EXPECT_THAT(afterPoll(), IsEmpty());
 }
