@@ -27,6 +27,7 @@ void FaceModel::setFace(HUDFace face)
     tell(&HUDFace::barColors, &FaceModel::barColorsChanged);
     tell(&HUDFace::colorsFollowTrack, &FaceModel::colorsFollowTrackChanged);
     tell(&HUDFace::glow, &FaceModel::glowChanged);
+    tell(&HUDFace::boxColor, &FaceModel::boxColorChanged);
     tell(&HUDFace::accent, &FaceModel::accentChanged);
     tell(&HUDFace::accessibleText, &FaceModel::accessibleTextChanged);
 }

@@ -32,6 +32,8 @@ class FaceModel : public QObject
     Q_PROPERTY(QList<QColor> barColors READ barColors NOTIFY barColorsChanged FINAL)
     Q_PROPERTY(bool colorsFollowTrack READ colorsFollowTrack NOTIFY colorsFollowTrackChanged FINAL)
     Q_PROPERTY(bool glow READ glow NOTIFY glowChanged FINAL)
+    Q_PROPERTY(QColor boxColor READ boxColor NOTIFY boxColorChanged FINAL)
+    Q_PROPERTY(bool hasBoxColor READ hasBoxColor NOTIFY boxColorChanged FINAL)
     Q_PROPERTY(QColor accent READ accent NOTIFY accentChanged FINAL)
     Q_PROPERTY(QString accessibleText READ accessibleText NOTIFY accessibleTextChanged FINAL)
 
@@ -56,6 +58,8 @@ public:
     QList<QColor> barColors() const { return face_.barColors; }
     bool colorsFollowTrack() const { return face_.colorsFollowTrack; }
     bool glow() const { return face_.glow; }
+    QColor boxColor() const { return face_.boxColor; }
+    bool hasBoxColor() const { return face_.boxColor.isValid(); }
     QColor accent() const { return face_.accent; }
     QString accessibleText() const { return face_.accessibleText; }
 
@@ -74,6 +78,7 @@ Q_SIGNALS:
     void barColorsChanged();
     void colorsFollowTrackChanged();
     void glowChanged();
+    void boxColorChanged();
     void accentChanged();
     void accessibleTextChanged();
 

@@ -149,12 +149,33 @@ void setBattery(HUDFace &face, const HUDContent &hud, const HUDLook &look)
         face.figures.clear();
 }
 
+/// Where a message is from, for those whose messages are announced.
+void setApplication(HUDFace &face, const QString &bundleID)
+{
+    struct Application {
+        QLatin1StringView bundleID;
+        QLatin1StringView name;
+        QColor color;
+    };
+    static constexpr Application applications[] = {
+        {QLatin1StringView("com.tinyspeck.slackmacgap"), QLatin1StringView("Slack"), {97, 31, 105}},
+        {QLatin1StringView("com.hnc.Discord"), QLatin1StringView("Discord"), {88, 101, 242}}};
+    const auto application = std::ranges::find(applications, bundleID, &Application::bundleID);
+    if (application == std::end(applications))
+        return;
+    face.label = application->name;
+    face.boxColor = application->color;
+    face.accessibleText = Words::tr("%1, %2").arg(face.label, face.accessibleText);
+}
+
 void setMessage(HUDFace &face, const HUDContent &hud)
 {
     face.layout = HUDLayout::Message;
     face.symbolSize = messageSymbol;
     if (hud.type == HUDContent::HUDType::Bluetooth)
         setCharge(face, hud, green);
+    if (hud.type == HUDContent::HUDType::Notification)
+        setApplication(face, hud.bundleID.value_or(QString()));
     if (hud.type == HUDContent::HUDType::Weather)
         face.accent = weatherColor(face.symbol);
 }

@@ -33,10 +33,11 @@ struct HUDFace {
     double level = 0;       ///< 0..1
     int levelAnimation = 0; ///< ms the bar takes to a new level; 0 = it jumps
     QString figures;        ///< number at the end of the line; empty = none
-    QString label;          ///< word at the end of the line, in place of the number; empty = none
+    QString label;          ///< word at the end of the line, as where it is from; empty = none
     QList<QColor> barColors{Qt::white};
     bool colorsFollowTrack = false;
     bool glow = false;
+    QColor boxColor; ///< behind the glyph; invalid = that of all others
     QColor accent{Qt::white};
     QString accessibleText;
 };

@@ -24,7 +24,7 @@ Item {
             anchors.fill: parent
             visible: !hud.low && !hud.face.hasPicture
             radius: 12
-            color: Ink.raised
+            color: hud.face.hasBoxColor ? hud.face.boxColor : Ink.raised
         }
         Glyph {
             anchors.centerIn: parent
@@ -42,6 +42,8 @@ Item {
     }
 
     Column {
+        id: texts
+
         anchors.left: box.visible ? box.right : parent.left
         anchors.leftMargin: box.visible ? 12 : 18
         anchors.right: figures.text === "" ? parent.right : figures.left
@@ -49,7 +51,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
 
         Text {
-            width: parent.width
+            width: parent.width - (source.visible ? source.width + 10 : 0)
             text: hud.face.title
             textFormat: Text.PlainText
             elide: Text.ElideRight
@@ -73,6 +75,18 @@ Item {
         }
     }
 
+    Text {
+        id: source
+
+        anchors.right: parent.right
+        anchors.rightMargin: 18
+        y: texts.y + 1
+        visible: text !== ""
+        text: hud.face.label
+        textFormat: Text.PlainText
+        font: Type.text
+        color: Ink.secondary
+    }
     FigureText {
         id: figures
 

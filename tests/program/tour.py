@@ -247,6 +247,7 @@ class Tour:
         self.island.wait_until_collapsed()
         self.open()
         self.turn_to("timer")
+        time.sleep(0.6)
         self.press(-3, 52)
         time.sleep(0.4)
         self.press(197, 96)
