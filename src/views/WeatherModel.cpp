@@ -136,17 +136,19 @@ QString WeatherModel::condition() const
 
 QString WeatherModel::place() const
 {
+    return plainText(weather().locationName, longestName);
+}
+
+QString WeatherModel::range() const
+{
     const WeatherData &now = weather();
-    QString text = plainText(now.locationName, longestName);
-    if (!now.highTemp && !now.lowTemp)
-        return text;
-    text += QStringLiteral(" ·");
+    QStringList ends;
     //: Today's highest and lowest temperature, in as few letters as can be
     if (now.highTemp)
-        text += u' ' + tr("H %1").arg(degrees(*now.highTemp, *now.highTempF));
+        ends.append(tr("H %1").arg(degrees(*now.highTemp, *now.highTempF)));
     if (now.lowTemp)
-        text += u' ' + tr("L %1").arg(degrees(*now.lowTemp, *now.lowTempF));
-    return text;
+        ends.append(tr("L %1").arg(degrees(*now.lowTemp, *now.lowTempF)));
+    return ends.join(u' ');
 }
 
 QVariantList WeatherModel::details() const
@@ -193,7 +195,7 @@ QString WeatherModel::source() const
 
 QString WeatherModel::accessibleText() const
 {
-    QStringList parts{temperature(), condition(), feelsLike(), place()};
+    QStringList parts{temperature(), condition(), feelsLike(), place(), range()};
     parts.removeAll(QString());
     for (const QVariant &entry : details()) {
         const auto map = entry.toMap();

@@ -27,6 +27,7 @@ class WeatherModel : public QObject
     Q_PROPERTY(QString feelsLike READ feelsLike NOTIFY weatherChanged FINAL)
     Q_PROPERTY(QString condition READ condition NOTIFY weatherChanged FINAL)
     Q_PROPERTY(QString place READ place NOTIFY weatherChanged FINAL)
+    Q_PROPERTY(QString range READ range NOTIFY weatherChanged FINAL)
     Q_PROPERTY(QVariantList details READ details NOTIFY weatherChanged FINAL)
     Q_PROPERTY(QVariantList hours READ hours NOTIFY weatherChanged FINAL)
     Q_PROPERTY(QString source READ source NOTIFY sourceChanged FINAL)
@@ -51,7 +52,8 @@ public:
     QString temperature() const;
     QString feelsLike() const; ///< "feels like 19°"; empty: unknown
     QString condition() const;
-    QString place() const;        ///< with today's range: "Lisbon · H 24° L 14°"
+    QString place() const;
+    QString range() const;        ///< of today: "H 24° L 14°"; empty: unknown
     QVariantList details() const; ///< maps of name and value; unknown ones are left out
     QVariantList hours() const;   ///< maps of hour, symbol, color and temperature
     QString source() const;       ///< where it comes from and how old it is

@@ -49,7 +49,7 @@ Item {
         Item {
             id: place
 
-            width: Math.min(placeName.implicitWidth, parent.width)
+            width: Math.min(placeName.implicitWidth, parent.width - range.width)
             height: placeName.height
             anchors.left: parent.left
             activeFocusOnTab: true
@@ -72,6 +72,17 @@ Item {
                 font.pixelSize: Type.text.pixelSize
                 font.underline: hover.hovered || place.activeFocus
                 color: hover.hovered || place.activeFocus ? Ink.content : Ink.body
+            }
+            Text {
+                id: range
+
+                anchors.left: parent.right
+                width: text === "" ? 0 : implicitWidth
+                text: panel.weather.range === "" ? "" : " · " + panel.weather.range
+                textFormat: Text.PlainText
+                font: Type.text
+                color: Ink.body
+                Accessible.ignored: true
             }
             HoverHandler {
                 id: hover

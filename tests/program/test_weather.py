@@ -1,14 +1,17 @@
 """The weather from loopback servers: what is shown, what is announced, and what bad answers do."""
 
+import datetime
 import json
 import re
 import time
 import unittest
+import zoneinfo
 
 from case import DesktopTest
 from desktop import PrivateDesktop, wait_until
+from keyring import Keyring
 from location import LocationService, can_mount
-from weather import WeatherServers, forecast
+from weather import WeatherServers, apple_forecast, forecast
 
 LISBON = {"name": "Lisbon", "latitude": 38.71667, "longitude": -9.13333, "timeZone": "Europe/Lisbon"}
 
@@ -20,6 +23,7 @@ BAD_ANSWERS = [
     (200, b'{"current": ' + b"[" * 100_000),
     (200, b" " * 30_000_000),
     (503, b"busy"),
+    0.5,
     (429, json.dumps(forecast()).encode()),
 ]
 
@@ -74,6 +78,34 @@ class WeatherTest(DesktopTest):
         self.servers.answer = forecast(3)
         self.island.type_place("Lisbon", 38.7, -9.1)
         wait_until(lambda: self.weather()["temperature"] == 3, what="better weather")
+
+    def test_a_token_in_the_keyring_opens_the_first_service(self):
+        keyring = Keyring(self.desktop)
+        keyring.store("com.quillmere.weatherkit", "developer-token", "aaa.bbb.ccc")
+        zone = zoneinfo.ZoneInfo("Pacific/Auckland")  # where it is tomorrow already
+        now = datetime.datetime.now(zone)
+        self.servers = self.enterContext(WeatherServers(self.desktop))
+        self.servers.apple = apple_forecast(now)
+        self.island = self.start_island()
+        self.island.type_place("Auckland", -36.85, 174.76, zone.key)
+        record = wait_until(self.weather, 15, "the weather")
+        self.assertEqual(self.servers.token, "Bearer aaa.bbb.ccc")
+        self.assertEqual(
+            (record["source"], record["temperature"], record["conditionCode"], record["highTemp"], record["lowTemp"]),
+            ("appleWeather", 3.26, 66, 6.0, -1.0),
+        )
+        self.assertEqual((record["humidity"], record["visibility"]), (55, 8.123))
+        hours = [hour["hour"] for hour in record["hourlyForecast"]]
+        self.assertEqual(len(hours), 8)
+        self.assertIn(hours[0], (now.hour, (now.hour + 1) % 24))  # the hour may end meanwhile
+
+        for refusal in ((401, b"{}"), (200, b"{}"), {"currentWeather": {"temperature": "cold"}}):
+            self.servers.apple = refusal
+            self.servers.answer = forecast(len(self.servers.requests))
+            self.island.type_place("Auckland", -36.85 - len(self.servers.requests) / 100, 174.76, zone.key)
+            wait_until(lambda: self.weather()["temperature"] == self.servers.answer["current"]["temperature_2m"], 10,
+                       f"the other service after {refusal}")  # fmt: skip
+        self.assertNotIn("aaa.bbb", self.island.output())
 
     def test_nobody_knows_where_we_are(self):
         self.start()

@@ -330,11 +330,11 @@ class Tour:
         self.island.ctl("action", "play-pause")
         time.sleep(1)
         self.settled("media-paused")
-        left, right = self.scrubber()
-        self.point(left + 0.6 * (right - left), 88, "mousedown", "1")
-        self.point(left + 0.8 * (right - left), 88)
+        left, right, y = self.scrubber()
+        self.point(left + 0.6 * (right - left), y, "mousedown", "1")
+        self.point(left + 0.8 * (right - left), y)
         self.settled("media-scrubbing")
-        self.point(left + 0.8 * (right - left), 88, "mouseup", "1")
+        self.point(left + 0.8 * (right - left), y, "mouseup", "1")
         wait_until(lambda: abs(player.position() - 0.8 * 227) < 3, what="the player to follow")
         self.settled("media-sought")
         self.point(-200, 180)  # where nothing answers to it
@@ -352,9 +352,9 @@ class Tour:
         wait_until(lambda: not bus.now_playing(), what="the end of the track")
 
     def scrubber(self):
-        """Its ends, from the middle of the screen."""
+        """Its ends, from the middle of the screen, and its height."""
         _, _, width, _ = self.island.get("Frame")
-        return 176 - width / 2, width / 2 - 24
+        return 176 - width / 2, width / 2 - 24, 70 if self.island.get("Activities") else 88
 
     def drags(self):
         with Drag(self.desktop) as drag:

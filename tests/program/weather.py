@@ -1,12 +1,14 @@
 """The servers of the weather on the loopback: both forecasts and the search for places."""
 
 import contextlib
+import datetime
 import http.server
 import json
 import threading
 import time
 import urllib.parse
 
+DAY, HOUR = datetime.timedelta(days=1), datetime.timedelta(hours=1)
 HOURS = [("21", 2), ("22", 2), ("23", 0), ("23", 0), ("21", 3), ("19", 61), ("17", 63), ("16", 95)]
 
 
@@ -26,6 +28,34 @@ def forecast(temperature=21.2, code=2):
     }  # fmt: skip
 
 
+def apple_forecast(now):
+    """As of the aware time `now`: hours from two before it on, today and tomorrow."""
+    hour = now.replace(minute=0, second=0, microsecond=0)
+
+    def text(time):
+        return time.astimezone(datetime.timezone.utc).strftime("%Y-%m-%dT%H:%M:%SZ")
+
+    midnight = hour.replace(hour=0)
+    return {
+        "currentWeather": {
+            "asOf": text(now), "conditionCode": "Hail", "daylight": True, "humidity": 0.545, "temperature": 3.26,
+            "temperatureApparent": 0.5, "windSpeed": 20.0, "visibility": 8123.0,
+        },
+        "forecastDaily": {
+            "days": [
+                {"forecastStart": text(midnight + day * DAY), "temperatureMax": 6.0 + day, "temperatureMin": -1.0}
+                for day in (0, 1)
+            ]
+        },
+        "forecastHourly": {
+            "hours": [
+                {"forecastStart": text(hour + ahead * HOUR), "temperature": float(ahead), "conditionCode": "Cloudy"}
+                for ahead in range(-2, 12)
+            ]
+        },
+    }  # fmt: skip
+
+
 PLACES = {
     "results": [
         {"name": "Lisbon", "latitude": 38.71667, "longitude": -9.13333, "timezone": "Europe/Lisbon",
@@ -39,11 +69,13 @@ PLACES = {
 
 
 class WeatherServers:
-    """Use as a context manager, or start() it, before the program starts. `answer` is the forecast's: an object, or (status, bytes),
+    """Use as a context manager, or start() it, before the program starts. `answer` is the public forecast's and `apple` the other's: an object, or (status, bytes),
     or a number of seconds to keep it waiting."""
 
     def __init__(self, desktop):
         self.answer = forecast()
+        self.apple = (401, b"{}")
+        self.token = None
         self.requests = []
         owner = self
 
@@ -51,6 +83,9 @@ class WeatherServers:
             def do_GET(self):
                 owner.requests.append(self.path)
                 answer = owner.answer
+                if self.path.startswith("/api/v1/weather/"):
+                    answer = owner.apple
+                    owner.token = self.headers.get("Authorization")
                 if urllib.parse.urlparse(self.path).path == "/v1/search":
                     answer = PLACES if "Lis" in self.path else {}
                 if isinstance(answer, (int, float)):

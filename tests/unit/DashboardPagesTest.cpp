@@ -56,7 +56,7 @@ TEST_F(DashboardPagesTest, WeatherIsReadInTheUnitsOfThePlaceAndTheUser)
     struct Case {
         QLocale locale;
         bool fahrenheit;
-        QString temperature, feelsLike, place;
+        QString temperature, feelsLike, range;
         QStringList details, hours;
     };
     const Case cases[] = {
@@ -64,21 +64,21 @@ TEST_F(DashboardPagesTest, WeatherIsReadInTheUnitsOfThePlaceAndTheUser)
          false,
          u"21°"_s,
          u"feels like 19°"_s,
-         u"Lisbon · H 24° L 14°"_s,
+         u"H 24° L 14°"_s,
          {u"62%"_s, u"9 mph"_s, u"15 mi"_s},
          {u"Now"_s, u"15"_s}},
         {QLocale(QLocale::German, QLocale::Germany),
          false,
          u"21°"_s,
          u"feels like 19°"_s,
-         u"Lisbon · H 24° L 14°"_s,
+         u"H 24° L 14°"_s,
          {u"62%"_s, u"14 km/h"_s, u"24 km"_s},
          {u"Now"_s, u"15"_s}},
         {QLocale(QLocale::English, QLocale::UnitedStates),
          true,
          u"70°"_s,
          u"feels like 67°"_s,
-         u"Lisbon · H 75° L 57°"_s,
+         u"H 75° L 57°"_s,
          {u"62%"_s, u"9 mph"_s, u"15 mi"_s},
          {u"Now"_s, u"3 PM"_s}},
     };
@@ -89,7 +89,7 @@ TEST_F(DashboardPagesTest, WeatherIsReadInTheUnitsOfThePlaceAndTheUser)
         settings.weatherUseFahrenheit.set(test.fahrenheit);
         EXPECT_EQ(page.temperature(), test.temperature);
         EXPECT_EQ(page.feelsLike(), test.feelsLike);
-        EXPECT_EQ(page.place(), test.place);
+        EXPECT_EQ(page.range(), test.range);
         EXPECT_EQ(values(page.details(), u"value"_s), test.details);
         EXPECT_EQ(values(page.hours(), u"hour"_s), test.hours);
     }
