@@ -20,7 +20,7 @@ const QByteArray answer = R"({
 class DashboardPagesTest : public testing::Test, protected IslandFixture
 {
 protected:
-    ~DashboardPagesTest() override { QLocale::setDefault(QLocale::c()); }
+    void TearDown() override { QLocale::setDefault(QLocale::c()); }
 
     void show(IslandPage page)
     {
