@@ -114,9 +114,9 @@ TEST_F(UnreadMailTest, InboxesOfEveryFormat)
         {"maildir|Maildir|1@x|Ada <a@x>|Seen|FS", "0", "Maildir: ~/Maildir"},
         {"maildir|Maildir|2@x|Ada <a@x>|Flagged|F", "1 2@x Flagged Ada <a@x>", ""},
         {"maildir|Maildir/.Lists|3@x|Ada <a@x>|Elsewhere", "1 2@x Flagged Ada <a@x>", ""},
-        {"maildir|Mail/work/INBOX|4@x|Bob <b@x>|New", "2 4@x New Bob <b@x>",
-         "Maildir: ~/Mail/work/INBOX"},
-        {"maildir|Mail/work/Sent|5@x|Me <m@x>|Sent", "2 4@x New Bob <b@x>", ""},
+        {"maildir|Mail/office/INBOX|4@x|Bob <b@x>|New", "2 4@x New Bob <b@x>",
+         "Maildir: ~/Mail/office/INBOX"},
+        {"maildir|Mail/office/Sent|5@x|Me <m@x>|Sent", "2 4@x New Bob <b@x>", ""},
         {"maildir|.local/share/evolution/mail/local|6@x|Cy <c@x>|Evo", "3 6@x Evo Cy <c@x>",
          "Evolution: ~/.local/share/evolution/mail/local"}};
     QStringList sources;
