@@ -4,6 +4,7 @@
 #include "platform/linux/core/QtRunLoop.h"
 #include "platform/linux/scripts/ProcessScriptRunner.h"
 #include "support/BusServer.h"
+#include "support/Eventually.h"
 
 #include <gmock/gmock.h>
 
@@ -11,8 +12,6 @@
 #include <QDBusError>
 #include <QDBusObjectPath>
 #include <QDBusVirtualObject>
-#include <QDeadlineTimer>
-#include <QTimer>
 
 namespace quillmere {
 namespace {
@@ -25,20 +24,6 @@ using ::testing::IsEmpty;
 const QString serviceName = u"org.freedesktop.GeoClue2"_s;
 const QString clientPath = u"/org/freedesktop/GeoClue2/Client/1"_s;
 const QString locationPath = u"/org/freedesktop/GeoClue2/Client/1/Location/0"_s;
-
-template <class Predicate>
-bool waitUntil(Predicate isDone)
-{
-    QTimer wake;
-    wake.start(5);
-    const QDeadlineTimer deadline(20s);
-    while (!isDone()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return true;
-}
 
 /// The location service, answering as the test says.
 class StubGeoClue : public QDBusVirtualObject
@@ -132,7 +117,7 @@ TEST_F(LocationTest, IsAskedForFoundAndLeftAloneAgain)
 {
     StubGeoClue service(bus.connect());
     manager.requestAlwaysAuthorization();
-    ASSERT_TRUE(waitUntil([&] { return service.calls.contains(u"DeleteClient"_s); }));
+    ASSERT_TRUE(eventually([&] { return service.calls.contains(u"DeleteClient"_s); }));
     EXPECT_THAT(service.calls,
                 ElementsAre(u"CreateClient"_s, u"DesktopId"_s, u"RequestedAccuracyLevel"_s,
                             u"Start"_s, u"GetAll"_s, u"DeleteClient"_s));
@@ -140,7 +125,7 @@ TEST_F(LocationTest, IsAskedForFoundAndLeftAloneAgain)
     EXPECT_THAT(listener.found, ElementsAre(london));
 
     manager.startUpdatingLocation();
-    ASSERT_TRUE(waitUntil([&] { return listener.found.size() == 2; }));
+    ASSERT_TRUE(eventually([&] { return listener.found.size() == 2; }));
     EXPECT_EQ(listener.statuses.size(), 1) << "already known";
     EXPECT_THAT(listener.errors, IsEmpty());
 }
@@ -148,14 +133,14 @@ TEST_F(LocationTest, IsAskedForFoundAndLeftAloneAgain)
 TEST_F(LocationTest, ARefusalIsADenialAndNoServiceARestriction)
 {
     manager.requestAlwaysAuthorization();
-    ASSERT_TRUE(waitUntil([&] { return listener.statuses.size() == 1; }));
+    ASSERT_TRUE(eventually([&] { return listener.statuses.size() == 1; }));
     StubGeoClue service(bus.connect());
     service.refusal = QDBusError::errorString(QDBusError::AccessDenied);
     manager.requestAlwaysAuthorization();
-    ASSERT_TRUE(waitUntil([&] { return listener.statuses.size() == 2; }));
+    ASSERT_TRUE(eventually([&] { return listener.statuses.size() == 2; }));
     service.refusal = u"org.example.Busy"_s;
     manager.requestAlwaysAuthorization();
-    ASSERT_TRUE(waitUntil([&] { return listener.errors.size() == 3; }));
+    ASSERT_TRUE(eventually([&] { return listener.errors.size() == 3; }));
     EXPECT_THAT(listener.statuses,
                 ElementsAre(AuthorizationStatus::Restricted, AuthorizationStatus::Denied));
     EXPECT_EQ(listener.errors.last(), u"not for you"_s);
@@ -166,7 +151,7 @@ TEST_F(LocationTest, OnlyTheServiceIsBelievedAndOnlyPlacesOnEarth)
     StubGeoClue service(bus.connect());
     service.hasFix = false;
     manager.requestAlwaysAuthorization();
-    ASSERT_TRUE(waitUntil([&] { return listener.statuses.size() == 1; }));
+    ASSERT_TRUE(eventually([&] { return listener.statuses.size() == 1; }));
     StubGeoClue::announce(bus.connect());
     for (const QVariant &lie :
          {QVariant(QVariantMap{{u"Latitude"_s, 91.0}, {u"Longitude"_s, 0.0}}), QVariant(7),
@@ -174,13 +159,13 @@ TEST_F(LocationTest, OnlyTheServiceIsBelievedAndOnlyPlacesOnEarth)
         service.location = lie;
         StubGeoClue::announce(service.bus);
         const auto asked = service.calls.count(u"GetAll"_s);
-        ASSERT_TRUE(waitUntil([&] { return service.calls.count(u"GetAll"_s) > asked; }));
+        ASSERT_TRUE(eventually([&] { return service.calls.count(u"GetAll"_s) > asked; }));
     }
     EXPECT_EQ(service.calls.count(u"GetAll"_s), 3);
     EXPECT_THAT(listener.found, IsEmpty());
     service.location = QVariantMap{{u"Latitude"_s, 51.5}, {u"Longitude"_s, -0.12}};
     StubGeoClue::announce(service.bus);
-    EXPECT_TRUE(waitUntil([&] { return listener.found == QList{london}; }));
+    EXPECT_TRUE(eventually([&] { return listener.found == QList{london}; }));
 }
 
 TEST_F(LocationTest, AServiceThatDiesIsAnErrorAndIsUsedAgain)
@@ -189,12 +174,12 @@ TEST_F(LocationTest, AServiceThatDiesIsAnErrorAndIsUsedAgain)
         StubGeoClue service(bus.connect());
         service.hasFix = false;
         manager.requestAlwaysAuthorization();
-        ASSERT_TRUE(waitUntil([&] { return listener.statuses.size() == 1; }));
+        ASSERT_TRUE(eventually([&] { return listener.statuses.size() == 1; }));
     }
-    ASSERT_TRUE(waitUntil([&] { return listener.errors.size() == 1; }));
+    ASSERT_TRUE(eventually([&] { return listener.errors.size() == 1; }));
     StubGeoClue service(bus.connect());
     manager.startUpdatingLocation();
-    EXPECT_TRUE(waitUntil([&] { return listener.found.size() == 1; }));
+    EXPECT_TRUE(eventually([&] { return listener.found.size() == 1; }));
 }
 
 TEST_F(LocationTest, CitiesHaveNamesAndTheSeaHasNone)
@@ -209,7 +194,7 @@ TEST_F(LocationTest, CitiesHaveNamesAndTheSeaHasNone)
             latitude, longitude, [&](const std::optional<Placemark> &placemark) {
                 names.append(placemark.value_or(Placemark{u"none"_s, {}}).locality);
             });
-        ASSERT_TRUE(waitUntil([&] { return names.size() > count; }));
+        ASSERT_TRUE(eventually([&] { return names.size() > count; }));
     }
     EXPECT_THAT(names, ElementsAre(u"London"_s, u"Tokyo"_s, u"none"_s, u"none"_s));
 }
