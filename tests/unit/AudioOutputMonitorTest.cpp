@@ -52,17 +52,17 @@ TEST_F(AudioOutputMonitorTest, ADeviceConnectedBeforeIsRememberedAndReportedOnly
 
     const struct {
         AudioDeviceID device;
-        std::vector<std::string> reports;
         AudioDeviceID last;
+        std::vector<std::string> reports;
     } steps[] = {
-        {airPods, {}, airPods}, // told again
-        {0, {}, airPods},       // nothing to decide from
-        {airPods, {}, airPods},
-        {speakers, {}, 0},
-        {airPods, {"AirPods Pro (AirPods)"}, airPods},
-        {bluetooth(std::nullopt), {"Bluetooth Device"}, 3},
-        {99, {}, 0}, // gone before it could be looked at
-        {3, {"Bluetooth Device"}, 3},
+        {airPods, airPods, {}}, // told again
+        {0, airPods, {}},       // nothing to decide from
+        {airPods, airPods, {}},
+        {speakers, 0, {}},
+        {airPods, airPods, {"AirPods Pro (AirPods)"}},
+        {bluetooth(std::nullopt), 3, {"Bluetooth Device"}},
+        {99, 0, {}}, // gone before it could be looked at
+        {3, 3, {"Bluetooth Device"}},
     };
     for (const auto &step : steps) {
         hardware.setDefault(step.device);

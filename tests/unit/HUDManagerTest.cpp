@@ -236,17 +236,17 @@ TEST_F(HUDManagerTest, SteppingWrapsAndRemovingKeepsTheActivity)
         EXPECT_EQ(manager_.currentQueueIndex(), index);
     }
     struct Removal {
-        int index;
         std::vector<std::string> left;
+        int index;
         int current;
     };
     const Removal removals[] = {
-        {-1, {"email", "focus", "weather", "calendar"}, 2},
-        {4, {"email", "focus", "weather", "calendar"}, 2},
-        {0, {"focus", "weather", "calendar"}, 1},
-        {2, {"focus", "weather"}, 1},
-        {1, {"focus"}, 0},
-        {0, {}, 0},
+        {{"email", "focus", "weather", "calendar"}, -1, 2},
+        {{"email", "focus", "weather", "calendar"}, 4, 2},
+        {{"focus", "weather", "calendar"}, 0, 1},
+        {{"focus", "weather"}, 2, 1},
+        {{"focus"}, 1, 0},
+        {{}, 0, 0},
     };
     for (const Removal &removal : removals) {
         manager_.removeActivity(removal.index);

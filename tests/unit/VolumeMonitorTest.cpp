@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+#include <utility>
+
 namespace quillmere {
 namespace {
 
@@ -33,7 +35,7 @@ struct VolumeMonitorTest : testing::Test {
 
     AudioDeviceID startOn(FakeAudioHardware::Device device)
     {
-        const AudioDeviceID id = hardware.add(device);
+        const AudioDeviceID id = hardware.add(std::move(device));
         hardware.setDefault(id);
         monitor.start();
         return id;
