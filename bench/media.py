@@ -138,6 +138,13 @@ class Media:
             self.measurement.row("main thread in the storm and of the questions", f"busy {100 * share:.1f} %")
             for what, times in (("quiet", quiet), ("in the storm", stormy)):
                 self.measurement.row(f"answer of the main thread, 200 questions a second, {what}", self.spread(times))
+            player.stdin.write(b"storm %d\n" % (1000 * seconds))
+            player.stdin.flush()
+            self.measurement.row(
+                "longest stretches of the main thread between two sleeps, in the storm, at most",
+                self.spread(stretches(island, seconds)),
+            )
+            player.stdout.readline()
 
     @staticmethod
     def spread(times):
@@ -153,7 +160,26 @@ def polls(desktop):
 
 def main_thread(island):
     """Its time on a processor so far, in seconds."""
-    return island.threads()[str(island.process.pid)][2] / 1e9
+    return island.main_thread()[2] / 1e9
+
+
+def stretches(island, seconds):
+    """Processor time that the main thread spent between one sleep and the next, in seconds.
+
+    Unlike the time of an answer it holds no waiting for a processor, so it is told rightly on a busy machine.
+    Stretches that fall between two looks are added up, and what was used while a sleep came in between
+    counts for both sides: each figure is an upper bound.
+    """
+    found, used, end = [], 0, time.monotonic() + seconds
+    last = island.main_thread()
+    while time.monotonic() < end:
+        sleeps, _, time_used = now = island.main_thread()
+        used += time_used - last[2]
+        if sleeps != last[0]:
+            found.append(used / 1e9)
+            used = time_used - last[2]
+        last = now
+    return found
 
 
 def answers(bus, seconds):

@@ -183,14 +183,21 @@ class Island:
         found = {}
         for task in Path(f"/proc/{self.process.pid}/task").iterdir():
             try:
-                text = (task / "status").read_text()
-                busy = int((task / "schedstat").read_text().split()[0])
+                found[task.name] = self.activity(task)
             except (FileNotFoundError, ProcessLookupError):
-                continue  # it ended meanwhile
-            voluntary = int(re.search(r"^voluntary_ctxt_switches:\s+(\d+)", text, re.M).group(1))
-            involuntary = int(re.search(r"^nonvoluntary_ctxt_switches:\s+(\d+)", text, re.M).group(1))
-            found[task.name] = (voluntary, involuntary, busy)
+                pass  # it ended meanwhile
         return found
+
+    def main_thread(self):
+        """The same of the main thread alone."""
+        return self.activity(Path(f"/proc/{self.process.pid}/task/{self.process.pid}"))
+
+    @staticmethod
+    def activity(task):
+        text = (task / "status").read_text()
+        voluntary = int(re.search(r"^voluntary_ctxt_switches:\s+(\d+)", text, re.M).group(1))
+        involuntary = int(re.search(r"^nonvoluntary_ctxt_switches:\s+(\d+)", text, re.M).group(1))
+        return voluntary, involuntary, int((task / "schedstat").read_text().split()[0])
 
     # -- its pixels -----------------------------------------------------------------------------
 
