@@ -1,0 +1,60 @@
+#!/usr/bin/python3
+"""Cuts the pictures of the README and of docs/gallery.md out of a finished tour.
+
+    /usr/bin/python3 tests/program/tour.py --build build --out build/tour
+    /usr/bin/python3 tests/program/gallery.py build/tour
+"""
+
+import argparse
+import sys
+from pathlib import Path
+
+from PIL import Image
+
+IMAGES = Path(__file__).resolve().parent.parent.parent / "docs" / "images"
+HUD, WINGS, PAGE = (440, 100), (440, 60), (660, 240)  # logical units
+
+# Picture of the tour (light wallpaper, 2x) -> name in docs/images and what is cut out around the island.
+PICTURES = {
+    "volume-40": ("volume", HUD),
+    "muted": ("muted", HUD),
+    "brightness-60": ("brightness", HUD),
+    "charging": ("charging", HUD),
+    "low-battery": ("low-battery", HUD),
+    "headset": ("headset", HUD),
+    "file-added": ("file-added", HUD),
+    "assistant": ("assistant", WINGS),
+    "media-wings": ("media-wings", WINGS),
+    "timer-wings": ("timer-wings", WINGS),
+    "media": ("media", PAGE),
+    "weather": ("weather", PAGE),
+    "system": ("system", PAGE),
+    "timer-focus-running": ("timer-focus", PAGE),
+    "timer-countdown": ("timer-countdown", PAGE),
+    "timer-stopwatch": ("timer-stopwatch", PAGE),
+    "tray-with-a-file": ("tray", PAGE),
+    "outputs": ("outputs", PAGE),
+}
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("tour", type=Path)
+    tour = parser.parse_args().tour
+    missing = []
+    for shown, (name, (width, height)) in PICTURES.items():
+        found = sorted(tour.glob(f"[0-9]*-{shown}-light-2x.png"))
+        if not found:
+            missing.append(shown)
+            continue
+        with Image.open(found[0]) as picture:
+            left = (picture.width - 2 * width) // 2
+            # A palette of 256 colours is not seen to differ, and half as large.
+            part = picture.convert("RGB").crop((left, 0, left + 2 * width, 2 * height))
+            part.quantize(256, dither=Image.Dither.FLOYDSTEINBERG).save(IMAGES / f"{name}.png", optimize=True)
+    if missing:
+        sys.exit("not in the tour: " + ", ".join(missing))
+
+
+if __name__ == "__main__":
+    main()
