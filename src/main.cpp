@@ -67,7 +67,7 @@ private:
         Platform &services = platform_.services();
         AppDelegate &delegate = app_.appDelegate();
         model_.emplace(app_.hudManager(), island.contentView, island.panel, app_.settings(),
-                       services.appearance);
+                       services.appearance, island.outputPicker);
         dashboard_.emplace(services.runLoop, app_.settings(), app_.hudManager(), island.contentView,
                            DashboardSources{.outputPicker = island.outputPicker,
                                             .fileTray = island.fileTray,

@@ -6,6 +6,7 @@
 #include "app/FileDragWatcher.h"
 #include "app/FileDrop.h"
 #include "app/FileTray.h"
+#include "app/FocusAlerts.h"
 #include "app/MediaPlayback.h"
 #include "app/Messages.h"
 #include "app/PowerAlerts.h"
@@ -148,7 +149,11 @@ void AppDelegate::createIsland()
             media_->previousTrack();
     };
     const auto isSuppressed = [this] { return hudsAreSuppressed(); };
-    powerAlerts_ = std::make_unique<PowerAlerts>(platform_, settings_, hudManager_, isSuppressed);
+    focusAlerts_ =
+        std::make_unique<FocusAlerts>(platform_.focusState, settings_, hudManager_, isSuppressed);
+    powerAlerts_ = std::make_unique<PowerAlerts>(
+        platform_, settings_, hudManager_,
+        [this](HUDContent::HUDType type) { return this->isSuppressed(type); });
     messages_ = std::make_unique<Messages>(platform_, settings_, hudManager_, QDir::homePath(),
                                            isSuppressed);
     weather_ =
@@ -174,6 +179,7 @@ void AppDelegate::createMonitors()
     createVolumeMonitor();
     createBrightnessMonitor();
     powerAlerts_->start();
+    focusAlerts_->start();
     weather_->start();
     createAudioOutputMonitor();
     messages_->startMail();
@@ -272,7 +278,8 @@ void AppDelegate::subscribeToSettings()
 
 void AppDelegate::volumeChanged(double percent)
 {
-    if (!settings_.showVolumeHUD.get() || !settings_.soundHUDsEnabled.get() || hudsAreSuppressed())
+    if (!settings_.showVolumeHUD.get() || !settings_.soundHUDsEnabled.get() ||
+        isSuppressed(HUDContent::HUDType::Volume))
         return;
     hudManager_.showVolume(percent, settings_.volumeHUDDuration.get());
 }
@@ -280,14 +287,14 @@ void AppDelegate::volumeChanged(double percent)
 void AppDelegate::brightnessChanged(double percent)
 {
     if (!settings_.showBrightnessHUD.get() || !settings_.displayHUDsEnabled.get() ||
-        hudsAreSuppressed())
+        isSuppressed(HUDContent::HUDType::Brightness))
         return;
     hudManager_.showBrightness(percent, settings_.brightnessHUDDuration.get());
 }
 
 void AppDelegate::bluetoothDeviceConnected(const QString &name, bool isAirPods)
 {
-    if (settings_.showBluetoothHUD.get() && !hudsAreSuppressed())
+    if (settings_.showBluetoothHUD.get() && !isSuppressed(HUDContent::HUDType::Bluetooth))
         deviceHUD_->show(name, isAirPods);
 }
 
@@ -300,6 +307,11 @@ void AppDelegate::fileDropped(const QList<QUrl> &files)
 bool AppDelegate::hudsAreSuppressed() const
 {
     return floatingPanel_->suppressesHUDs();
+}
+
+bool AppDelegate::isSuppressed(HUDContent::HUDType type) const
+{
+    return hudsAreSuppressed() || !focusAlerts_->allows(type);
 }
 
 void AppDelegate::scrolledOverCollapsedIsland(double steps)
@@ -360,6 +372,8 @@ void AppDelegate::applicationWillTerminate()
         brightnessMonitor_->stop();
     if (powerAlerts_)
         powerAlerts_->stop();
+    if (focusAlerts_)
+        focusAlerts_->stop();
     if (weather_)
         weather_->stop();
     if (outputPicker_)

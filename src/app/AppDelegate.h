@@ -1,5 +1,6 @@
 #pragma once
 
+#include "island/HUDContent.h"
 #include "platform/Platform.h"
 #include "platform/Task.h"
 
@@ -22,6 +23,7 @@ class DeviceHUD;
 class FileDragWatcher;
 class FileTray;
 class FloatingPanel;
+class FocusAlerts;
 class HUDManager;
 class IdleWings;
 class IslandDebugLogger;
@@ -35,7 +37,6 @@ class Timers;
 class Updater;
 class VolumeMonitor;
 class WeatherReports;
-struct HUDContent;
 
 /// The island and what it shows, for the views.
 struct Island {
@@ -109,6 +110,7 @@ private:
     void bluetoothDeviceConnected(const QString &name, bool isAirPods);
     void fileDropped(const QList<QUrl> &files);
     bool hudsAreSuppressed() const;
+    bool isSuppressed(HUDContent::HUDType type) const;
     void scrolledOverCollapsedIsland(double steps);
 
     Platform &platform_;
@@ -132,6 +134,7 @@ private:
     std::unique_ptr<ClaudeCodeMonitor> claudeCode_;
     std::unique_ptr<Timers> timers_;
     std::unique_ptr<Messages> messages_;
+    std::unique_ptr<FocusAlerts> focusAlerts_;
     std::unique_ptr<PowerAlerts> powerAlerts_;
     std::unique_ptr<WeatherReports> weather_;
     std::unique_ptr<SystemLoad> systemLoad_;

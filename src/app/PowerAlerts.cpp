@@ -46,7 +46,7 @@ HUDContent chargerHUD(int level, bool isCharging, bool isPluggedIn)
 }
 
 PowerAlerts::PowerAlerts(Platform &platform, SettingsStore &settings, HUDManager &hudManager,
-                         std::function<bool()> isSuppressed)
+                         std::function<bool(HUDContent::HUDType)> isSuppressed)
     : platform_(platform)
     , settings_(settings)
     , hudManager_(hudManager)
@@ -100,7 +100,7 @@ void PowerAlerts::followDevices()
 
 void PowerAlerts::chargerChanged(int level, bool isCharging, bool isPluggedIn)
 {
-    if (settings_.showBatteryHUD.get() && !isSuppressed_())
+    if (settings_.showBatteryHUD.get() && !isSuppressed_(HUDContent::HUDType::Battery))
         hudManager_.show(chargerHUD(level, isCharging, isPluggedIn), false,
                          settings_.batteryHUDDuration.get());
 }
@@ -109,7 +109,7 @@ void PowerAlerts::batteryIsLow(int level)
 {
     if (!settings_.warnOnLowBattery.get())
         return;
-    if (settings_.showBatteryHUD.get() && !isSuppressed_())
+    if (settings_.showBatteryHUD.get() && !isSuppressed_(HUDContent::HUDType::Battery))
         hudManager_.showLowBattery(level, settings_.batteryHUDDuration.get());
     if (settings_.playSoundOnLowBattery.get())
         platform_.systemSound.play(Sound::LowBattery);
@@ -124,7 +124,7 @@ void PowerAlerts::batteryIsLow(int level)
 void PowerAlerts::deviceIsLow(const QString &name, int level)
 {
     const QString shownName = name.isEmpty() ? Words::tr("Bluetooth device") : name;
-    if (settings_.showBluetoothHUD.get() && !isSuppressed_())
+    if (settings_.showBluetoothHUD.get() && !isSuppressed_(HUDContent::HUDType::Bluetooth))
         hudManager_.show({.title = shownName,
                           .subtitle = Words::tr("Low Battery"),
                           .icon = QString(symbols::battery25),

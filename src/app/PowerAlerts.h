@@ -23,9 +23,10 @@ HUDContent chargerHUD(int level, bool isCharging, bool isPluggedIn);
 class PowerAlerts
 {
 public:
-    /// While `isSuppressed` there are no HUDs; sounds and notifications still come.
+    /// What `isSuppressed` says of a type of HUD holds for the HUDs alone; sounds and notifications
+    /// still come.
     PowerAlerts(Platform &platform, SettingsStore &settings, HUDManager &hudManager,
-                std::function<bool()> isSuppressed);
+                std::function<bool(HUDContent::HUDType type)> isSuppressed);
 
     void start();
     void stop();
@@ -40,7 +41,7 @@ private:
     Platform &platform_;
     SettingsStore &settings_;
     HUDManager &hudManager_;
-    std::function<bool()> isSuppressed_;
+    std::function<bool(HUDContent::HUDType)> isSuppressed_;
     BatteryMonitor batteryMonitor_;
     BluetoothBatteryMonitor deviceMonitor_;
     Task availability_;

@@ -10,6 +10,7 @@ class BluetoothBatteries;
 class CloudKeyValueStore;
 class DisplayBrightness;
 class DragPasteboard;
+class FocusState;
 class Geocoder;
 class GlobalEvents;
 class Haptics;
@@ -69,6 +70,7 @@ struct Platform {
     UserFiles &userFiles; ///< those of other programs
     PowerSources &powerSources;
     LowPowerMode &lowPowerMode;
+    FocusState &focusState;
     HostStatistics &hostStatistics;
     UserNotifications &userNotifications;
     SystemSound &systemSound;

@@ -58,6 +58,8 @@ inline constexpr QLatin1StringView capsule{"capsule"};
 inline constexpr QLatin1StringView bubbles{"bubble.left.and.bubble.right.fill"};
 inline constexpr QLatin1StringView numberSign{"number"};
 inline constexpr QLatin1StringView envelope{"envelope.fill"};
+inline constexpr QLatin1StringView bell{"bell.fill"};
+inline constexpr QLatin1StringView bellSlash{"bell.slash.fill"};
 
 inline constexpr std::array all{
     pencil,     timer,           hourglass,    stopwatch,    stopCircle,     xmarkCircle,
@@ -67,6 +69,6 @@ inline constexpr std::array all{
     battery25,  battery50,       battery75,    battery100,   battery100Bolt, trayAndArrowDown,
     island,     playFill,        pauseFill,    backwardFill, forwardFill,    shuffle,
     repeat,     heart,           docOnDoc,     musicNote,    playCircle,     magnifyingGlass,
-    bubbles,    numberSign,      envelope};
+    bubbles,    numberSign,      envelope,     bell,         bellSlash};
 
 } // namespace quillmere::symbols

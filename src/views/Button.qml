@@ -34,7 +34,7 @@ Item {
         radius: height / 2
         color: {
             if (button.prominent)
-                return area.containsPress ? Ink.body : Ink.content;
+                return area.containsPress ? Ink.accentPressed : Ink.accent;
             return area.containsPress || button.chosen ? Ink.pressed : hover.hovered ? Ink.raised : Ink.card;
         }
         visible: !button.flat || button.chosen || hover.hovered || area.containsPress || button.activeFocus

@@ -178,7 +178,7 @@ void DashboardModel::updateLevel()
     const auto &hud = hudManager_.currentHUD();
     const bool shows = hud && isLevel(hud->type) && isOpen();
     if (shows)
-        level_.setFace(hudFace(*hud, hudLook(settings_), desktopAccent(appearance_)));
+        level_.setFace(hudFace(*hud, hudLook(settings_, outputPicker_), desktopAccent(appearance_)));
     if (std::exchange(showsLevel_, shows) != shows)
         Q_EMIT levelChanged();
 }
@@ -204,7 +204,7 @@ void DashboardModel::updateActivity()
         return;
     const auto &queue = hudManager_.hudQueue();
     if (!queue.isEmpty())
-        activity_.setFace(hudFace(queue.at(hudManager_.currentQueueIndex()), hudLook(settings_),
+        activity_.setFace(hudFace(queue.at(hudManager_.currentQueueIndex()), hudLook(settings_, outputPicker_),
                                   desktopAccent(appearance_)));
     Q_EMIT activityChanged();
 }

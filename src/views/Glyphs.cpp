@@ -59,6 +59,8 @@ constexpr std::array glyphNames{
     GlyphName{symbols::bubbles, QLatin1StringView{"status/chat"}},
     GlyphName{symbols::numberSign, QLatin1StringView{"status/number-sign"}},
     GlyphName{symbols::envelope, QLatin1StringView{"status/mail-unread"}},
+    GlyphName{symbols::bell, QLatin1StringView{"legacy/preferences-system-notifications"}},
+    GlyphName{symbols::bellSlash, QLatin1StringView{"status/notifications-disabled"}},
     GlyphName{symbols::island, QLatin1StringView{"status/island"}},
     GlyphName{symbols::weather::moon, QLatin1StringView{"status/weather-clear-night"}},
     GlyphName{symbols::weather::cloud, QLatin1StringView{"status/weather-overcast"}},

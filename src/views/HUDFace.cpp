@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace quillmere {
 
@@ -107,8 +108,11 @@ void setVolume(HUDFace &face, const HUDContent &hud, const HUDLook &look, const 
     face.title = Words::tr("Volume");
     setLevel(face, hud, look.sound);
     setColors(face, look.soundTheme, accent);
-    if (face.level > 0)
+    if (face.level > 0) {
+        if (!look.soundDevice.isEmpty())
+            face.symbol = look.soundDevice;
         return;
+    }
     face.accessibleText = Words::tr("Volume muted");
     if (!look.sound.hideLabel)
         face.label = Words::tr("Mute");
@@ -168,7 +172,7 @@ void setApplication(HUDFace &face, const QString &bundleID)
     face.accessibleText = Words::tr("%1, %2").arg(face.label, face.accessibleText);
 }
 
-void setMessage(HUDFace &face, const HUDContent &hud)
+void setMessage(HUDFace &face, const HUDContent &hud, const HUDLook &look)
 {
     face.layout = HUDLayout::Message;
     face.symbolSize = messageSymbol;
@@ -176,6 +180,8 @@ void setMessage(HUDFace &face, const HUDContent &hud)
         setCharge(face, hud, green);
     if (hud.type == HUDContent::HUDType::Notification)
         setApplication(face, hud.bundleID.value_or(QString()));
+    if (hud.type == HUDContent::HUDType::Focus && look.hideFocusLabel)
+        face.title = std::exchange(face.subtitle, QString());
     if (hud.type == HUDContent::HUDType::Weather)
         face.accent = weatherColor(face.symbol);
 }
@@ -204,7 +210,7 @@ HUDFace hudFace(const HUDContent &hud, const HUDLook &look, const QColor &accent
         setBattery(face, hud, look);
         break;
     default:
-        setMessage(face, hud);
+        setMessage(face, hud, look);
         break;
     }
     return face;

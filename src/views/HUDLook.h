@@ -2,8 +2,11 @@
 
 #include "settings/Choices.h"
 
+#include <QString>
+
 namespace quillmere {
 
+class AudioOutputPicker;
 class SettingsStore;
 
 /// The settings that decide how a HUD looks, read at one moment.
@@ -16,12 +19,14 @@ struct HUDLook {
     };
     Level sound;
     HUDColorTheme soundTheme = HUDColorTheme::White;
+    QString soundDevice; ///< the symbol of where sound goes; empty = a speaker that shows the level
     Level display;
     bool hideBatteryLabel = false;
     bool hideBatteryPercentage = false;
+    bool hideFocusLabel = false;
     HUDAppearanceStyle displayStyle = HUDAppearanceStyle::White;
 };
 
-HUDLook hudLook(const SettingsStore &settings);
+HUDLook hudLook(const SettingsStore &settings, const AudioOutputPicker &output);
 
 } // namespace quillmere

@@ -1,5 +1,6 @@
 #include "views/IslandModel.h"
 
+#include "app/AudioOutputPicker.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
@@ -43,13 +44,15 @@ double cornerRadius(Presentation presentation, double contentHeight)
 }
 
 IslandModel::IslandModel(HUDManager &hudManager, ContentView &contentView, FloatingPanel &panel,
-                         SettingsStore &settings, Appearance &appearance, QObject *parent)
+                         SettingsStore &settings, Appearance &appearance,
+                         const AudioOutputPicker &output, QObject *parent)
     : QObject(parent)
     , hudManager_(hudManager)
     , contentView_(contentView)
     , panel_(panel)
     , settings_(settings)
     , appearance_(appearance)
+    , output_(output)
 {
     connect(&contentView_, &ContentView::shownHUDChanged, this, &IslandModel::updateHUD);
     connect(&contentView_, &ContentView::wingsChanged, this, &IslandModel::updateWings);
@@ -68,10 +71,14 @@ IslandModel::IslandModel(HUDManager &hudManager, ContentView &contentView, Float
         refreshFace();
         if (key == settings_.islandAppearance.key() || key == settings_.glassTransparency.key())
             Q_EMIT surfaceChanged();
+        if (key == settings_.useAccentColor.key())
+            Q_EMIT accentChanged();
     });
+    connect(&output_, &AudioOutputPicker::currentChanged, this, &IslandModel::refreshFace);
     appearanceObserver_ = appearance_.onChanged([this] {
         refreshFace();
         Q_EMIT reducedMotionChanged();
+        Q_EMIT accentChanged();
     });
     updateShape();
     updateHUD();
@@ -125,6 +132,11 @@ double IslandModel::surfaceAlpha() const
     return 1 - 0.5 * std::clamp(settings_.glassTransparency.get(), 0.0, 1.0);
 }
 
+QColor IslandModel::accent() const
+{
+    return settings_.useAccentColor.get() ? desktopAccent(appearance_) : QColor(255, 255, 255, 235);
+}
+
 void IslandModel::press()
 {
     const auto &hud = contentView_.shownHUD();
@@ -175,7 +187,7 @@ void IslandModel::updateWings()
     const WingContent content = contentView_.wings().content();
     const bool isCollapsed = contentView_.presentation() == Presentation::Collapsed;
     if (const auto activity = contentView_.idleActivity(); activity && isCollapsed)
-        wings_.setFace(hudFace(*activity, hudLook(settings_), desktopAccent(appearance_)));
+        wings_.setFace(hudFace(*activity, hudLook(settings_, output_), desktopAccent(appearance_)));
     const bool shows = isCollapsed && content != WingContent();
     const bool changed = std::exchange(showsWings_, shows) != shows;
     if (shows ? std::exchange(shownWings_, content) != content || changed : changed)
@@ -220,7 +232,7 @@ void IslandModel::show(const HUDContent &hud)
     }
     shownHUD_ = hud;
     faces_[static_cast<std::size_t>(lastFace_)].setFace(
-        hudFace(hud, hudLook(settings_), desktopAccent(appearance_)));
+        hudFace(hud, hudLook(settings_, output_), desktopAccent(appearance_)));
     if (shownFace_ != lastFace_) {
         shownFace_ = lastFace_;
         Q_EMIT shownFaceChanged();

@@ -17,6 +17,7 @@
 namespace quillmere {
 
 class Appearance;
+class AudioOutputPicker;
 class ContentView;
 class FloatingPanel;
 class HUDManager;
@@ -50,6 +51,7 @@ class IslandModel : public QObject
     Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY reducedMotionChanged FINAL)
     Q_PROPERTY(bool expanded READ isExpanded NOTIFY presentationChanged FINAL)
     Q_PROPERTY(double surfaceAlpha READ surfaceAlpha NOTIFY surfaceChanged FINAL)
+    Q_PROPERTY(QColor accent READ accent NOTIFY accentChanged FINAL)
     Q_PROPERTY(bool showsWings READ showsWings NOTIFY wingsChanged FINAL)
     Q_PROPERTY(bool wingsShowMedia READ wingsShowMedia NOTIFY wingsChanged FINAL)
     Q_PROPERTY(bool wingsShowAssistant READ wingsShowAssistant NOTIFY wingsChanged FINAL)
@@ -59,7 +61,8 @@ class IslandModel : public QObject
 
 public:
     IslandModel(HUDManager &hudManager, ContentView &contentView, FloatingPanel &panel,
-                SettingsStore &settings, Appearance &appearance, QObject *parent = nullptr);
+                SettingsStore &settings, Appearance &appearance, const AudioOutputPicker &output,
+                QObject *parent = nullptr);
 
     double targetWidth() const { return size_.width(); }
     double targetHeight() const { return size_.height(); }
@@ -76,6 +79,7 @@ public:
     bool reducedMotion() const;
     bool isExpanded() const;
     double surfaceAlpha() const; ///< of the island's body; below 1 it is glass
+    QColor accent() const;       ///< of what is current, and of what is pressed most
     /// The activity in the wings of the pill.
     bool showsWings() const { return showsWings_; }
     /// That activity is the playing track; otherwise it has its face.
@@ -110,6 +114,7 @@ Q_SIGNALS:
     void reducedMotionChanged();
     void accessibleTextChanged();
     void surfaceChanged();
+    void accentChanged();
     void wingsChanged();
     void linkActivated(const QUrl &link);
     /// The application whose message was pressed.
@@ -130,6 +135,7 @@ private:
     FloatingPanel &panel_;
     SettingsStore &settings_;
     Appearance &appearance_;
+    const AudioOutputPicker &output_;
 
     QSizeF size_;
     double cornerRadius_ = 0;

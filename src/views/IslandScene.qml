@@ -21,6 +21,12 @@ Item {
         island.dragOver(false);
     }
 
+    Binding {
+        target: Ink
+        property: "accent"
+        value: scene.island.accent
+    }
+
     // The canvas comes up empty and the island fades in on it, every time it is shown.
     Follower on opacity {
         to: scene.live ? scene.island.alpha : 0

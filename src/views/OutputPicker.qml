@@ -123,7 +123,7 @@ Item {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: row.modelData.isCurrent
                 symbol: "checkmark"
-                color: Ink.content
+                color: Ink.accent
             }
             HoverHandler {
                 id: hover

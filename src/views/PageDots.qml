@@ -41,7 +41,7 @@ Row {
             Disc {
                 anchors.centerIn: parent
                 width: dot.activeFocus ? 8 : 5
-                color: dot.shown ? Ink.content : hover.hovered ? Ink.secondary : Ink.faint
+                color: dot.shown ? Ink.accent : hover.hovered ? Ink.secondary : Ink.faint
             }
             MouseArea {
                 anchors.fill: parent

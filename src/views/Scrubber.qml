@@ -41,7 +41,7 @@ Item {
         y: 9 - height / 2
         width: parent.width
         level: scrubber.shown
-        colors: [Ink.content]
+        colors: [Ink.accent]
 
         Follower on height {
             to: scrubber.lively ? 7 : 5

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/FocusState.h"
 #include "platform/Listeners.h"
 #include "platform/LowPowerMode.h"
 #include "platform/SystemSound.h"
@@ -22,7 +23,8 @@ struct FakeSystemSound : SystemSound {
 };
 
 /// A mode that the test switches.
-struct FakeLowPowerMode : LowPowerMode {
+template <class Mode>
+struct FakeMode : Mode {
     std::optional<bool> isOn() const override { return mode; }
     Task onChanged(std::function<void(bool)> listener) override
     {
@@ -36,5 +38,7 @@ struct FakeLowPowerMode : LowPowerMode {
     std::optional<bool> mode;
     Listeners<bool> listeners;
 };
+using FakeLowPowerMode = FakeMode<LowPowerMode>;
+using FakeFocusState = FakeMode<FocusState>;
 
 } // namespace quillmere

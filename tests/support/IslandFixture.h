@@ -75,9 +75,9 @@ struct IslandFixture {
                         haptics, logger};
     IslandGestures gestures{runLoop, settings, fixture.notifications, hud, content};
     FakeAppearance appearance;
-    IslandModel island{hud, content, panel, settings, appearance};
     FakeAudioHardware audio;
     AudioOutputPicker picker{audio, fixture.notifications};
+    IslandModel island{hud, content, panel, settings, appearance, picker};
     FileTray tray{settings};
     FakeMessageSocketServer socket{runLoop};
     FakeUserFiles files;

@@ -116,6 +116,7 @@ protected:
     FakeShortcutPublisher desktop;
     FakePowerSources power;
     FakeLowPowerMode lowPowerMode;
+    FakeFocusState focus;
     FakeHostStatistics host;
     FakeUserNotifications alerts;
     FakeSystemSound sound;
@@ -152,6 +153,7 @@ protected:
                       files,
                       power,
                       lowPowerMode,
+                      focus,
                       host,
                       alerts,
                       sound,
@@ -479,6 +481,63 @@ TEST_F(AppDelegateTest, ABrightnessStepIsShownAndTheDriftGoesBy)
     display.level = 0.9;
     runLoop.advance(1s);
     EXPECT_FALSE(showsHUD());
+}
+
+TEST_F(AppDelegateTest, DoNotDisturbIsToldOfAndHoldsBackWhatItsSettingsSay)
+{
+    display.level = 0.5;
+    display.setAvailable(true);
+    power.set(BatteryStatus{.level = 50, .isPluggedIn = true});
+    power.setAvailable(true);
+    focus.set(false);
+    launch();
+    const auto shown = [&] {
+        const QString type = state.hud().value(QStringLiteral("type")).toString();
+        runLoop.advance(10s);
+        return type;
+    };
+    const auto words = [&] {
+        return state.hud().value(QStringLiteral("title")).toString() + u' ' +
+               state.hud().value(QStringLiteral("subtitle")).toString();
+    };
+    float volume = 0.5F;
+    const struct {
+        const char *setting;
+        const char *type;
+        std::function<void()> change;
+    } cases[] = {
+        {"focusAllowSound", "volume", [&] { setVolume(volume = 1 - volume + 0.1F); }},
+        {"focusAllowDisplay", "brightness",
+         [&] {
+             display.level = display.level > 0.6 ? 0.2 : 0.9;
+             runLoop.advance(400ms);
+         }},
+        {"focusAllowBattery", "battery",
+         [&] {
+             power.set(BatteryStatus{.level = 50, .isPluggedIn = !power.status()->isPluggedIn});
+             runLoop.settle();
+         }},
+    };
+    for (const auto &[setting, type, change] : cases) {
+        SCOPED_TRACE(setting);
+        const auto key = QString::fromLatin1(setting);
+        focus.set(true);
+        EXPECT_EQ(words(), QStringLiteral("Do Not Disturb On"));
+        EXPECT_EQ(shown(), QStringLiteral("focus"));
+        change();
+        EXPECT_EQ(shown(), QString::fromLatin1(type));
+        defaults.changeFromOutside(key, false);
+        change();
+        EXPECT_EQ(shown(), QString());
+        focus.set(false);
+        EXPECT_EQ(words(), QStringLiteral("Do Not Disturb Off"));
+        shown();
+        change();
+        EXPECT_EQ(shown(), QString::fromLatin1(type));
+    }
+    defaults.changeFromOutside(QStringLiteral("showFocusHUD"), false);
+    focus.set(true);
+    EXPECT_EQ(shown(), QString());
 }
 
 TEST_F(AppDelegateTest, AHeadsetIsAnnouncedOnceAndItsChargeJoinsLater)

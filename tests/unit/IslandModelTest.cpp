@@ -110,11 +110,34 @@ TEST_F(IslandModelTest, LevelFaceFollowsTheSettings)
     EXPECT_FALSE(face().colorsFollowTrack);
     EXPECT_NE(face().barColors, white);
 
+    const auto headphones = audio.add({.facts = {.formFactor = AudioFormFactor::Headphones}});
+    look(10);
+    for (const auto type : {SoundDisplayType::Device, SoundDisplayType::Speaker}) {
+        settings.soundDisplayType.set(type);
+        audio.setDefault(audio.add({})); // says nothing of itself
+        EXPECT_EQ(face().symbol, QStringLiteral("speaker.wave.1.fill"));
+        audio.setDefault(headphones);
+        EXPECT_EQ(face().symbol == QStringLiteral("headphones"), type == SoundDisplayType::Device);
+        EXPECT_EQ(look(0).symbol, QStringLiteral("speaker.slash.fill"));
+        look(10);
+    }
+
     hud.showBrightness(30, 5);
     EXPECT_EQ(face().figures, QString()); // the sound's settings are not its own
     EXPECT_FALSE(face().glow);
     settings.displayAppearanceStyle.set(HUDAppearanceStyle::Glow);
     EXPECT_TRUE(face().glow);
+}
+
+TEST_F(IslandModelTest, TheUsersColourIsTakenWhenItIsWanted)
+{
+    appearance.accent = AccentColor{.green = 0.8};
+    const QColor white = island.accent();
+    EXPECT_EQ(white.hslSaturation(), 0);
+    settings.useAccentColor.set(true);
+    EXPECT_GT(island.accent().green(), island.accent().red());
+    settings.useAccentColor.set(false);
+    EXPECT_EQ(island.accent(), white);
 }
 
 TEST_F(IslandModelTest, SpeaksOfWhatItShows)

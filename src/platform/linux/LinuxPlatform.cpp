@@ -54,6 +54,7 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
     , messageSocketServer_(runLoop)
     , powerSources_(runLoop)
     , lowPowerMode_(runLoop)
+    , focusState_(sessionBus(bus))
     , userNotifications_(sessionBus(bus))
     , systemSound_(runLoop)
     , locationManager_(runLoop)
@@ -86,6 +87,7 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
                 userFiles_,
                 powerSources_,
                 lowPowerMode_,
+                focusState_,
                 hostStatistics_,
                 userNotifications_,
                 systemSound_,

@@ -5,6 +5,7 @@
 #include "platform/linux/WindowSystem.h"
 #include "platform/linux/alerts/CanberraSound.h"
 #include "platform/linux/alerts/DesktopNotifications.h"
+#include "platform/linux/alerts/NotificationInhibition.h"
 #include "platform/linux/appearance/DesktopAppearance.h"
 #include "platform/linux/appearance/FeedbackdHaptics.h"
 #include "platform/linux/audio/PulseAudioHardware.h"
@@ -73,6 +74,7 @@ private:
     LinuxUserFiles userFiles_;
     UPowerSources powerSources_;
     PowerProfiles lowPowerMode_;
+    NotificationInhibition focusState_;
     ProcStatistics hostStatistics_;
     DesktopNotifications userNotifications_;
     CanberraSound systemSound_;

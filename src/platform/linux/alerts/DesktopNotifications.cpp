@@ -5,6 +5,7 @@
 
 #include <QDebug>
 
+#include <algorithm>
 #include <array>
 
 namespace quillmere {
@@ -15,6 +16,7 @@ using namespace std::chrono_literals;
 
 constexpr Duration answerLimit = 25s; // the server may have to start
 constexpr int serversChoice = -1;
+constexpr qsizetype mostRemembered = 32; // many are shown once and never replaced
 enum Urgency : uchar { Normal = 1, Critical = 2 };
 
 const QString serverName = QStringLiteral("org.freedesktop.Notifications");
@@ -77,17 +79,31 @@ void DesktopNotifications::deliver(const UserNotification &notification)
 void DesktopNotifications::show(const UserNotification &notification, bool hasMarkup)
 {
     auto message = callOf("Notify");
-    message << QStringLiteral("Quillmere") << shown_.value(notification.identifier, 0U)
+    message << QStringLiteral("Quillmere") << numberOf(notification.identifier)
             << iconOf(notification.symbol) << notification.title
             << (hasMarkup ? notification.body.toHtmlEscaped() : notification.body) << QStringList()
             << hintsOf(notification) << serversChoice;
     calls_.call(message, answerLimit, [this, id = notification.identifier](const BusReply &reply) {
         if (reply)
-            shown_.insert(id, reply->value(0).toUInt());
+            remember(id, reply->value(0).toUInt());
         else
             qWarning("[Notifications] The server refused: %s",
                      qUtf8Printable(reply.error().message()));
     });
+}
+
+uint DesktopNotifications::numberOf(const QString &identifier) const
+{
+    const auto found = std::ranges::find(shown_, identifier, &Shown::identifier);
+    return found == shown_.cend() ? 0 : found->number;
+}
+
+void DesktopNotifications::remember(const QString &identifier, uint number)
+{
+    shown_.removeIf([&](const Shown &shown) { return shown.identifier == identifier; });
+    shown_.append({identifier, number});
+    if (shown_.size() > mostRemembered)
+        shown_.removeFirst();
 }
 
 } // namespace quillmere

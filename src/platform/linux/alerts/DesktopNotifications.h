@@ -4,7 +4,7 @@
 #include "platform/linux/dbus/BusOwner.h"
 
 #include <QDBusConnection>
-#include <QHash>
+#include <QList>
 
 namespace quillmere {
 
@@ -18,9 +18,16 @@ public:
     void deliver(const UserNotification &notification) override;
 
 private:
-    void show(const UserNotification &notification, bool hasMarkup);
+    struct Shown {
+        QString identifier;
+        uint number = 0; ///< that this run of the server gave
+    };
 
-    QHash<QString, uint> shown_; ///< the numbers that this run of the server gave
+    void show(const UserNotification &notification, bool hasMarkup);
+    uint numberOf(const QString &identifier) const;
+    void remember(const QString &identifier, uint number);
+
+    QList<Shown> shown_; ///< the last few, the newest at the end
     BusCalls calls_;
     BusOwner server_;
 };

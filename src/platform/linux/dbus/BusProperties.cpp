@@ -35,8 +35,9 @@ void BusProperties::readAll()
     question << place_.interface;
     calls_.call(question, answerLimit, [this](const BusReply &reply) {
         if (!reply) {
-            qWarning("%s does not tell: %s", qUtf8Printable(place_.path),
-                     qUtf8Printable(reply.error().message()));
+            if (!place_.mayBeMissing)
+                qWarning("%s does not tell: %s", qUtf8Printable(place_.path),
+                         qUtf8Printable(reply.error().message()));
             return;
         }
         isRead_ = true;

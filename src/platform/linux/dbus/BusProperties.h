@@ -20,6 +20,7 @@ public:
         QString owner; ///< the service's unique name, so that nobody else is believed
         QString path;
         QString interface;
+        bool mayBeMissing = false; ///< nothing is said of an object without it
     };
 
     /// `onTold` gets every property once the service has answered, and later on the changed ones.

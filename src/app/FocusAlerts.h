@@ -1,0 +1,39 @@
+#pragma once
+
+#include "island/HUDContent.h"
+#include "platform/Task.h"
+
+#include <functional>
+
+namespace quillmere {
+
+class FocusState;
+class HUDManager;
+class SettingsStore;
+
+/// Tells when the desktop is asked not to disturb and when no longer, and decides which HUDs come
+/// through meanwhile. Main thread only.
+class FocusAlerts
+{
+public:
+    /// While `isSuppressed` there are no HUDs.
+    FocusAlerts(FocusState &focusState, SettingsStore &settings, HUDManager &hudManager,
+                std::function<bool()> isSuppressed);
+
+    void start();
+    void stop() { changes_.cancel(); }
+
+    /// Whether a HUD of this type may come now. Those that no setting speaks of always may.
+    bool allows(HUDContent::HUDType type) const;
+
+private:
+    void changed(bool isOn);
+
+    FocusState &focusState_;
+    SettingsStore &settings_;
+    HUDManager &hudManager_;
+    std::function<bool()> isSuppressed_;
+    Task changes_;
+};
+
+} // namespace quillmere
