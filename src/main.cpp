@@ -102,16 +102,9 @@ private:
         on(&MediaModel::seekRequested, [&playback](double fraction) { playback.seek(fraction); });
         on(&MediaModel::shuffleRequested, [&playback] { playback.toggleShuffle(); });
         on(&MediaModel::repeatRequested, [&playback] { playback.cycleRepeat(); });
-        const auto offerExtras = [&model, &playback] {
-            std::set<MediaControlButton> extras{MediaControlButton::Copy};
-            if (playback.canShuffle())
-                extras.insert(MediaControlButton::Shuffle);
-            if (playback.canRepeat())
-                extras.insert(MediaControlButton::Repeat);
-            model.setSupportedExtras(extras);
+        playback.onPlayModeChanged = [&model, &playback] {
+            model.setPlayMode(playback.isShuffling(), playback.repeatMode());
         };
-        on(&MediaModel::titleChanged, offerExtras);
-        on(&MediaModel::hasMediaChanged, offerExtras);
         on(&MediaModel::linkActivated, [](const QUrl &link) { QDesktopServices::openUrl(link); });
         on(&MediaModel::copyRequested,
            [](const QString &text) { QGuiApplication::clipboard()->setText(text); });

@@ -17,6 +17,11 @@ MediaPlayback::MediaPlayback(Platform &platform, SettingsStore &settings, HUDMan
     , pauseObserver_(platform.notificationCenter.observe(
           mediaEvents::isPlayingDidChange,
           [this](const QVariantMap &payload) { playingChanged(payload); }))
+    , playModeObserver_(platform.notificationCenter.observe(mediaEvents::playModeDidChange,
+                                                            [this](const QVariantMap &) {
+                                                                if (onPlayModeChanged)
+                                                                    onPlayModeChanged();
+                                                            }))
 {
 }
 

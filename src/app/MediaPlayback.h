@@ -3,6 +3,9 @@
 #include "nowplaying/NowPlayingArtworkService.h"
 #include "nowplaying/NowPlayingPoller.h"
 
+#include <functional>
+#include <optional>
+
 namespace quillmere {
 
 class HUDManager;
@@ -30,9 +33,11 @@ public:
     void nextTrack();
     void previousTrack();
 
-    /// What the player can do, known by the time its track is shown.
-    bool canShuffle() const { return service_.canShuffle(); }
-    bool canRepeat() const { return service_.canRepeat(); }
+    /// Absent if the player cannot; known by the time its track is shown.
+    std::optional<bool> isShuffling() const { return service_.isShuffling(); }
+    std::optional<RepeatMode> repeatMode() const { return service_.repeatMode(); }
+    std::function<void()> onPlayModeChanged;
+
     void toggleShuffle() { service_.toggleShuffle(); }
     void cycleRepeat() { service_.cycleRepeat(); }
 
@@ -47,6 +52,7 @@ private:
     NowPlayingArtworkService service_;
     NowPlayingPoller poller_;
     Task pauseObserver_;
+    Task playModeObserver_;
 };
 
 } // namespace quillmere

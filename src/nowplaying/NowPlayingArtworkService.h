@@ -44,10 +44,16 @@ public:
     bool nextTrack() { return send(MediaRemote::Command::NextTrack); }
     bool previousTrack() { return send(MediaRemote::Command::PreviousTrack); }
 
-    bool canShuffle() const { return mediaRemote_.isAvailable() && mediaRemote_.canShuffle(); }
-    bool canRepeat() const { return mediaRemote_.isAvailable() && mediaRemote_.canRepeat(); }
-    bool toggleShuffle() { return canShuffle() && mediaRemote_.toggleShuffle(); }
-    bool cycleRepeat() { return canRepeat() && mediaRemote_.cycleRepeat(); }
+    std::optional<bool> isShuffling() const
+    {
+        return mediaRemote_.isAvailable() ? mediaRemote_.isShuffling() : std::nullopt;
+    }
+    std::optional<RepeatMode> repeatMode() const
+    {
+        return mediaRemote_.isAvailable() ? mediaRemote_.repeatMode() : std::nullopt;
+    }
+    bool toggleShuffle() { return mediaRemote_.isAvailable() && mediaRemote_.toggleShuffle(); }
+    bool cycleRepeat() { return mediaRemote_.isAvailable() && mediaRemote_.cycleRepeat(); }
 
     /// To a fraction, 0..1, of the track fetched last; without effect if its length is unknown.
     void seek(double fraction);

@@ -6,8 +6,12 @@
 #include <QVariantMap>
 
 #include <functional>
+#include <optional>
 
 namespace quillmere {
+
+/// What a player plays again when it comes to the end.
+enum class RepeatMode { Nothing, List, Track };
 
 /// What plays, and the commands that go to its player. Main thread only.
 ///
@@ -39,9 +43,10 @@ public:
     /// Moves the elected player to `seconds` into its track.
     virtual void setElapsedTime(double seconds) = 0;
 
-    /// Whether the elected player can play in random order, or again from the start.
-    virtual bool canShuffle() const = 0;
-    virtual bool canRepeat() const = 0;
+    /// Whether the elected player plays in random order, and what it repeats; absent if it cannot.
+    /// Told of by playModeDidChange, and without delay.
+    virtual std::optional<bool> isShuffling() const = 0;
+    virtual std::optional<RepeatMode> repeatMode() const = 0;
 
     /// Turns random order on or off. False if there is no player that has it.
     virtual bool toggleShuffle() = 0;
@@ -82,6 +87,7 @@ inline constexpr QLatin1StringView
 /// In the payload of isPlayingDidChange: false if the player has been paused, else true or absent.
 inline constexpr QLatin1StringView
     isPlaying("kMRMediaRemoteNowPlayingApplicationIsPlayingUserInfoKey");
+inline constexpr QLatin1StringView playModeDidChange("QuillmerePlayModeDidChange");
 inline constexpr QLatin1StringView infoChanged("com.apple.mediaremote.nowplaying.info.changed");
 inline constexpr QLatin1StringView
     applicationChanged("com.apple.mediaremote.nowplaying.applicationchanged");

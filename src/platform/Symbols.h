@@ -40,6 +40,7 @@ inline constexpr QLatin1StringView backwardFill{"backward.fill"};
 inline constexpr QLatin1StringView forwardFill{"forward.fill"};
 inline constexpr QLatin1StringView shuffle{"shuffle"};
 inline constexpr QLatin1StringView repeat{"repeat"};
+inline constexpr QLatin1StringView repeat1{"repeat.1"};
 inline constexpr QLatin1StringView heart{"heart.fill"};
 inline constexpr QLatin1StringView docOnDoc{"doc.on.doc"};
 inline constexpr QLatin1StringView musicNote{"music.note"};
@@ -69,6 +70,6 @@ inline constexpr std::array all{
     battery25,  battery50,       battery75,    battery100,   battery100Bolt, trayAndArrowDown,
     island,     playFill,        pauseFill,    backwardFill, forwardFill,    shuffle,
     repeat,     heart,           docOnDoc,     musicNote,    playCircle,     magnifyingGlass,
-    bubbles,    numberSign,      envelope,     bell,         bellSlash};
+    bubbles,    numberSign,      envelope,     bell,         bellSlash,      repeat1};
 
 } // namespace quillmere::symbols

@@ -51,6 +51,7 @@ constexpr std::array glyphNames{
     GlyphName{symbols::forwardFill, QLatin1StringView{"actions/media-skip-forward"}},
     GlyphName{symbols::shuffle, QLatin1StringView{"status/media-playlist-shuffle"}},
     GlyphName{symbols::repeat, QLatin1StringView{"status/media-playlist-repeat"}},
+    GlyphName{symbols::repeat1, QLatin1StringView{"status/media-playlist-repeat-song"}},
     GlyphName{symbols::heart, QLatin1StringView{"emblems/emblem-favorite"}},
     GlyphName{symbols::docOnDoc, QLatin1StringView{"actions/edit-copy"}},
     GlyphName{symbols::musicNote, QLatin1StringView{"emblems/emblem-music"}},

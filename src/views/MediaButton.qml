@@ -9,6 +9,7 @@ Item {
     required property string text
     property real glyphSize: 22
     property color color: Ink.content
+    property bool on: false // it is a switch, and switched on
 
     signal pressed()
 
@@ -18,6 +19,7 @@ Item {
 
     Accessible.role: Accessible.Button
     Accessible.name: text
+    Accessible.checked: on
     Accessible.onPressAction: pressed()
     Keys.onReturnPressed: pressed()
     Keys.onSpacePressed: pressed()
@@ -35,6 +37,14 @@ Item {
         height: width
         symbol: button.symbol
         color: hover.hovered ? Ink.content : button.color
+    }
+    Disc {
+        width: 4
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: -1
+        color: Ink.accent
+        visible: button.on
     }
     HoverHandler {
         id: hover

@@ -42,6 +42,19 @@ QString accessibleText(const MediaFace &face)
                           : Words::tr("Paused: %1").arg(track);
 }
 
+ExtraButton repeatButton(RepeatMode mode)
+{
+    switch (mode) {
+    case RepeatMode::List:
+        return {QString(symbols::repeat), Words::tr("Repeat, all"), true};
+    case RepeatMode::Track:
+        return {QString(symbols::repeat1), Words::tr("Repeat, this track"), true};
+    case RepeatMode::Nothing:
+        break;
+    }
+    return {QString(symbols::repeat), Words::tr("Repeat, off")};
+}
+
 } // namespace
 
 MediaFace mediaFace(const HUDContent &record, double duration, bool hideExtras)
@@ -85,19 +98,26 @@ QList<QColor> waveformColors(WaveformStyle style, const QColor &accent)
     return {content};
 }
 
-ExtraButton extraButton(MediaControlButton button)
+std::optional<ExtraButton> extraButton(MediaControlButton button, std::optional<bool> isShuffling,
+                                       std::optional<RepeatMode> repeat)
 {
     switch (button) {
-    case MediaControlButton::Favorite:
-        return {QString(symbols::heart), Words::tr("Favorite")};
+    case MediaControlButton::Favorite: // no player of this desktop can be told so
+        break;
     case MediaControlButton::Shuffle:
-        return {QString(symbols::shuffle), Words::tr("Shuffle")};
+        if (isShuffling)
+            return ExtraButton{QString(symbols::shuffle),
+                               *isShuffling ? Words::tr("Shuffle, on") : Words::tr("Shuffle, off"),
+                               *isShuffling};
+        break;
     case MediaControlButton::Repeat:
-        return {QString(symbols::repeat), Words::tr("Repeat")};
+        if (repeat)
+            return repeatButton(*repeat);
+        break;
     case MediaControlButton::Copy:
-        return {QString(symbols::docOnDoc), Words::tr("Copy title and artist")};
+        return ExtraButton{QString(symbols::docOnDoc), Words::tr("Copy title and artist")};
     }
-    return {};
+    return std::nullopt;
 }
 
 } // namespace quillmere

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "platform/MediaRemote.h"
 #include "settings/Choices.h"
 
 #include <QColor>
 #include <QImage>
 #include <QList>
 #include <QString>
+
+#include <optional>
 
 namespace quillmere {
 
@@ -40,9 +43,13 @@ QList<QColor> waveformColors(WaveformStyle style, const QColor &accent);
 /// The button beside the transport.
 struct ExtraButton {
     QString symbol;
-    QString text;
+    QString text; ///< what it does, and how it stands
+    bool isOn = false;
 };
 
-ExtraButton extraButton(MediaControlButton button);
+/// Absent when there is nothing it could do. `isShuffling` and `repeat` are absent for a player
+/// that cannot.
+std::optional<ExtraButton> extraButton(MediaControlButton button, std::optional<bool> isShuffling,
+                                       std::optional<RepeatMode> repeat);
 
 } // namespace quillmere

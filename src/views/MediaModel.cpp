@@ -31,7 +31,6 @@ MediaModel::MediaModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hu
     , settings_(settings)
     , hudManager_(hudManager)
     , appearance_(appearance)
-    , supportedExtras_{MediaControlButton::Copy}
     , accents_(keptAccents)
 {
     connect(&hudManager_, &HUDManager::currentNowPlayingChanged, this, &MediaModel::update);
@@ -44,11 +43,10 @@ MediaModel::MediaModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hu
     refreshLook();
 }
 
-void MediaModel::setSupportedExtras(std::set<MediaControlButton> extras)
+void MediaModel::setPlayMode(std::optional<bool> isShuffling, std::optional<RepeatMode> repeat)
 {
-    if (extras == supportedExtras_)
-        return;
-    supportedExtras_ = std::move(extras);
+    isShuffling_ = isShuffling;
+    repeat_ = repeat;
     refreshLook();
 }
 
@@ -117,10 +115,10 @@ void MediaModel::refreshLook()
     look.compactWaveform = waveformColors(settings_.compactWaveformStyle.get(), look.accent);
     look.showsCompactWaveform = !settings_.disableCompactWaveform.get();
     look.flipsArtwork = !settings_.disableArtworkFlip.get();
-    if (const auto button = settings_.mediaControlButton.get(); supportedExtras_.contains(button)) {
-        const ExtraButton extra = extraButton(button);
-        look.extraSymbol = extra.symbol;
-        look.extraText = extra.text;
+    if (const auto extra = extraButton(settings_.mediaControlButton.get(), isShuffling_, repeat_)) {
+        look.extraSymbol = extra->symbol;
+        look.extraText = extra->text;
+        look.extraIsOn = extra->isOn;
     }
     if (look == look_)
         return;

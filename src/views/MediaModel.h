@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/MediaRemote.h"
 #include "platform/Owner.h"
 #include "platform/Task.h"
 #include "views/MediaFace.h"
@@ -10,7 +11,6 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <optional>
-#include <set>
 
 namespace quillmere {
 
@@ -47,13 +47,14 @@ class MediaModel : public QObject
     Q_PROPERTY(QColor accent READ accent NOTIFY lookChanged FINAL)
     Q_PROPERTY(QString extraSymbol READ extraSymbol NOTIFY lookChanged FINAL)
     Q_PROPERTY(QString extraText READ extraText NOTIFY lookChanged FINAL)
+    Q_PROPERTY(bool extraIsOn READ extraIsOn NOTIFY lookChanged FINAL)
 
 public:
     MediaModel(RunLoop &runLoop, SettingsStore &settings, HUDManager &hudManager,
                Appearance &appearance, QObject *parent = nullptr);
 
-    /// The extra buttons somebody listens to; a button without a use is not shown.
-    void setSupportedExtras(std::set<MediaControlButton> extras);
+    /// What the player says; absent if it cannot, and then there is no button for it.
+    void setPlayMode(std::optional<bool> isShuffling, std::optional<RepeatMode> repeat);
 
     bool isOffered() const { return look_.offered; } ///< the user wants to see media at all
     bool hasMedia() const { return hasMedia_; }
@@ -78,6 +79,7 @@ public:
     QColor accent() const { return look_.accent; }
     QString extraSymbol() const { return look_.extraSymbol; } ///< empty: there is no such button
     QString extraText() const { return look_.extraText; }
+    bool extraIsOn() const { return look_.extraIsOn; } ///< as random order may be
 
     /// The position as text, at `fraction` of the track.
     Q_INVOKABLE QString elapsedAt(double fraction) const;
@@ -130,6 +132,7 @@ private:
         bool flipsArtwork = true;
         QString extraSymbol;
         QString extraText;
+        bool extraIsOn = false;
     };
 
     void update();
@@ -147,7 +150,8 @@ private:
     bool hasMedia_ = false;
     MediaFace face_;
     Look look_;
-    std::set<MediaControlButton> supportedExtras_;
+    std::optional<bool> isShuffling_;
+    std::optional<RepeatMode> repeat_;
     std::optional<double> pendingSeek_; ///< where the player was sent
     Task seekTimeout_;
     QCache<qint64, QColor> accents_; ///< by the artwork's cache key

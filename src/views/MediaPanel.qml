@@ -118,7 +118,8 @@ Item {
                 symbol: panel.media.extraSymbol
                 text: panel.media.extraText
                 glyphSize: 16
-                color: Ink.secondary
+                color: on ? Ink.accent : Ink.secondary
+                on: panel.media.extraIsOn
                 onPressed: panel.media.pressExtra()
             }
             MediaButton {

@@ -58,6 +58,16 @@ struct MediaRemoteTest : testing::Test {
         return answer.canConvert<QDBusVariant>() ? answer.value<QDBusVariant>().variant() : answer;
     }
 
+    void setProperty(const QString &player, const QString &name, const QVariant &value) const
+    {
+        auto call = QDBusMessage::createMethodCall(u"org.mpris.MediaPlayer2."_s + player,
+                                                   u"/org/mpris/MediaPlayer2"_s,
+                                                   u"org.freedesktop.DBus.Properties"_s, u"Set"_s);
+        call << u"org.mpris.MediaPlayer2.Player"_s << name
+             << QVariant::fromValue(QDBusVariant(value));
+        bus.connect().call(call);
+    }
+
     BusServer bus;
     NotificationCenter notifications;
     FakeHttpClient http;
@@ -300,11 +310,18 @@ TEST_F(RealPlayerTest, ObeyAndTellWhereTheyAre)
     EXPECT_TRUE(remote.sendCommand(MediaRemote::Command::PreviousTrack));
     EXPECT_TRUE(plays(u"First Light"_s, 1));
 
-    ASSERT_TRUE(remote.canRepeat());
+    QList<std::optional<RepeatMode>> told;
+    const auto modes = notifications.observe(
+        mediaEvents::playModeDidChange, [&](const auto &) { told.append(remote.repeatMode()); });
+    ASSERT_EQ(remote.repeatMode(), RepeatMode::Nothing);
     for (const QString &loop : {u"Playlist"_s, u"Track"_s, u"None"_s}) {
         EXPECT_TRUE(remote.cycleRepeat());
         EXPECT_TRUE(waitUntil([&] { return property(u"mpv"_s, u"LoopStatus"_s) == loop; }));
     }
+    EXPECT_EQ(told, (decltype(told){RepeatMode::List, RepeatMode::Track, RepeatMode::Nothing}));
+    told.clear();
+    setProperty(u"mpv"_s, u"Shuffle"_s, true); // by somebody else
+    EXPECT_TRUE(waitUntil([&] { return remote.isShuffling() == true && told.size() == 1; }));
 
     const auto other = startPlayer({second}); // begins later
     EXPECT_TRUE(plays(u"Second Wind"_s, 1));

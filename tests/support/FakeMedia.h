@@ -33,8 +33,8 @@ public:
         return true;
     }
     void setElapsedTime(double seconds) override { positions.push_back(seconds); }
-    bool canShuffle() const override { return false; }
-    bool canRepeat() const override { return false; }
+    std::optional<bool> isShuffling() const override { return std::nullopt; }
+    std::optional<RepeatMode> repeatMode() const override { return std::nullopt; }
     bool toggleShuffle() override { return false; }
     bool cycleRepeat() override { return false; }
 

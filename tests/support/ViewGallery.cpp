@@ -147,7 +147,7 @@ void play(Stage &stage, const Track &track)
         record.artworkImage = sampleArtwork(track.artwork);
     record.isPlaying = track.playing;
     stage.fixture.settings.showFileTray.set(true);
-    stage.dashboard.media()->setSupportedExtras({MediaControlButton::Shuffle});
+    stage.dashboard.media()->setPlayMode(true, RepeatMode::Nothing);
     stage.hud.updateNowPlaying(record, 65, track.duration);
     stage.runLoop.advance(10ms);
 }

@@ -109,6 +109,26 @@ TEST(WaveShapeTest, BarsStayInsideAndApart)
     }
 }
 
+TEST(MediaFaceTest, TheButtonsOfThePlayModeShowHowItStands)
+{
+    using enum MediaControlButton;
+    const auto button = [](MediaControlButton kind, std::optional<bool> isShuffling,
+                           std::optional<RepeatMode> repeat) {
+        const auto extra = extraButton(kind, isShuffling, repeat);
+        return extra ? extra->symbol + u' ' + extra->text + (extra->isOn ? u" *"_s : QString())
+                     : QString();
+    };
+    EXPECT_EQ(button(Shuffle, {}, RepeatMode::List), QString());
+    EXPECT_EQ(button(Shuffle, true, {}), u"shuffle Shuffle, on *"_s);
+    EXPECT_EQ(button(Shuffle, false, {}), u"shuffle Shuffle, off"_s);
+    EXPECT_EQ(button(Repeat, true, {}), QString());
+    EXPECT_EQ(button(Repeat, {}, RepeatMode::Nothing), u"repeat Repeat, off"_s);
+    EXPECT_EQ(button(Repeat, {}, RepeatMode::List), u"repeat Repeat, all *"_s);
+    EXPECT_EQ(button(Repeat, {}, RepeatMode::Track), u"repeat.1 Repeat, this track *"_s);
+    EXPECT_EQ(button(Favorite, true, RepeatMode::List), QString());
+    EXPECT_FALSE(button(Copy, {}, {}).isEmpty());
+}
+
 class MediaViewsTest : public testing::Test, protected IslandFixture
 {
 protected:

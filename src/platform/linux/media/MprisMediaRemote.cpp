@@ -92,18 +92,48 @@ void MprisMediaRemote::setElapsedTime(double seconds)
 
 bool MprisMediaRemote::toggleShuffle()
 {
-    if (!canShuffle())
+    if (!isShuffling())
         return false;
     elected_->toggleShuffle();
+    announcePlayMode();
     return true;
 }
 
 bool MprisMediaRemote::cycleRepeat()
 {
-    if (!canRepeat())
+    if (!repeatMode())
         return false;
     elected_->cycleRepeat();
+    announcePlayMode();
     return true;
+}
+
+std::optional<bool> MprisMediaRemote::isShuffling() const
+{
+    return elected_ ? elected_->isShuffling() : std::nullopt;
+}
+
+std::optional<RepeatMode> MprisMediaRemote::repeatMode() const
+{
+    const auto loop = elected_ ? elected_->loop() : std::nullopt;
+    if (!loop)
+        return std::nullopt;
+    switch (*loop) {
+    case LoopStatus::Playlist:
+        return RepeatMode::List;
+    case LoopStatus::Track:
+        return RepeatMode::Track;
+    case LoopStatus::None:
+        break;
+    }
+    return RepeatMode::Nothing;
+}
+
+void MprisMediaRemote::announcePlayMode()
+{
+    const auto mode = std::pair(isShuffling(), repeatMode());
+    if (std::exchange(playMode_, mode) != mode)
+        notificationCenter_.post(mediaEvents::playModeDidChange);
 }
 
 void MprisMediaRemote::ownerChanged(const QString &suffix, const QString &owner)
@@ -130,6 +160,7 @@ void MprisMediaRemote::reported(MprisPlayer &player, const MprisPlayer::Change &
     electAgain();
     if (&player != elected_)
         return;
+    announcePlayMode();
     if (change.art)
         artwork_.want(*change.art);
     announce({.info = change.info, .isPlaying = change.isPlaying});
@@ -153,6 +184,7 @@ void MprisMediaRemote::electAgain()
         player->refresh(); // for the picture, which is not kept of those that are not elected
     else
         artwork_.want({});
+    announcePlayMode();
     announce({.info = true, .application = true, .isPlaying = true});
 }
 

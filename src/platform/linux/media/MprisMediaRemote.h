@@ -7,6 +7,7 @@
 #include "platform/linux/media/MprisPlayers.h"
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace quillmere {
@@ -29,8 +30,8 @@ public:
                            std::function<void(const QVariantMap &info)> done) override;
     bool sendCommand(Command command) override;
     void setElapsedTime(double seconds) override;
-    bool canShuffle() const override { return elected_ && elected_->canShuffle(); }
-    bool canRepeat() const override { return elected_ && elected_->canRepeat(); }
+    std::optional<bool> isShuffling() const override;
+    std::optional<RepeatMode> repeatMode() const override;
     bool toggleShuffle() override;
     bool cycleRepeat() override;
 
@@ -47,6 +48,7 @@ private:
     void reported(MprisPlayer &player, const MprisPlayer::Change &change);
     void electAgain();
     void announce(const News &news);
+    void announcePlayMode();
     void post();
     QVariantMap infoOf(const MprisPlayer &player) const;
     Q_SLOT void disconnected();
@@ -58,6 +60,7 @@ private:
     ArtworkLoader artwork_;
     bool isRegistered_ = false;
     News news_;
+    std::pair<std::optional<bool>, std::optional<RepeatMode>> playMode_; ///< that was told of last
     Instant lastPost_{};
     Task nextPost_;
     std::vector<std::unique_ptr<MprisPlayer>> players_; // in the order in which they came

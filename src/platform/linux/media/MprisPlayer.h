@@ -62,8 +62,9 @@ public:
 
     void seekTo(double seconds);
 
-    bool canShuffle() const { return shuffle_.has_value(); }
-    bool canRepeat() const { return loop_.has_value(); }
+    /// Absent if it cannot.
+    const std::optional<bool> &isShuffling() const { return shuffle_; }
+    const std::optional<LoopStatus> &loop() const { return loop_; }
 
     /// Of a player that can.
     void toggleShuffle();
