@@ -11,7 +11,11 @@ inline constexpr QLatin1StringView settingsWindowClosed{"QuillmereSettingsWindow
 inline constexpr QLatin1StringView settingsDidSyncFromCloud{"QuillmereSettingsDidSyncFromICloud"};
 inline constexpr QLatin1StringView airPlayPickerShown{"QuillmereAirPlayPickerShown"};
 inline constexpr QLatin1StringView airPlayPickerDismissed{"QuillmereAirPlayPickerDismissed"};
+
+/// Carries byKeyboard = true if it was no pointer: then the dashboard takes the keyboard as well.
 inline constexpr QLatin1StringView islandTapped{"QuillmereIslandTapped"};
+inline constexpr QLatin1StringView byKeyboard{"byKeyboard"};
+
 inline constexpr QLatin1StringView dragEntered{"QuillmereDragEntered"};
 inline constexpr QLatin1StringView dragExited{"QuillmereDragExited"};
 

@@ -30,7 +30,9 @@ RemoteActions::RemoteActions(RemoteControl &remoteControl, NotificationCenter &n
     , actions_{
           {QStringLiteral("show-island"), [&delegate] { delegate.showIsland(); }},
           {QStringLiteral("toggle-island"),
-           [&notificationCenter] { notificationCenter.post(events::islandTapped); }},
+           [&notificationCenter] {
+               notificationCenter.post(events::islandTapped, {{events::byKeyboard, true}});
+           }},
           {QStringLiteral("refresh-now-playing"), [&delegate] { delegate.refreshNowPlaying(); }},
           {QStringLiteral("play-pause"), onMedia(delegate, &MediaPlayback::togglePlayPause)},
           {QStringLiteral("next-track"), onMedia(delegate, &MediaPlayback::nextTrack)},

@@ -86,7 +86,13 @@ void ContentView::observe(NotificationCenter &notificationCenter)
         observers_.push_back(notificationCenter.observe(
             name, [this, handler](const QVariantMap &) { (this->*handler)(); }));
     };
-    on(events::islandTapped, &ContentView::toggle);
+    observers_.push_back(
+        notificationCenter.observe(events::islandTapped, [this](const QVariantMap &userInfo) {
+            if (userInfo.value(events::byKeyboard).toBool())
+                toggleByKeyboard();
+            else
+                toggle();
+        }));
     on(events::airPlayPickerShown, &ContentView::pickerShown);
     on(events::airPlayPickerDismissed, &ContentView::pickerDismissed);
     on(events::dragEntered, &ContentView::dragEntered);
@@ -192,10 +198,41 @@ void ContentView::setTyping(bool typing)
     typing = typing && presentation() == Presentation::Expanded;
     if (std::exchange(isTyping_, typing) == typing)
         return;
-    panel_.setKey(typing);
+    updateKey();
     if (!typing && isExpanded_)
         scheduleCollapse();
     Q_EMIT typingChanged();
+}
+
+void ContentView::setHasKeyboard(bool has)
+{
+    hasKeyboard_ = has && presentation() == Presentation::Expanded;
+    updateKey();
+}
+
+void ContentView::updateKey()
+{
+    const bool isKey = isTyping_ || hasKeyboard_;
+    if (std::exchange(isKey_, isKey) != isKey)
+        panel_.setKey(isKey);
+}
+
+void ContentView::keyPressed()
+{
+    if (hasKeyboard_ && collapseWorkItem_)
+        scheduleCollapse();
+}
+
+void ContentView::keyboardLeft()
+{
+    setTyping(false);
+    setHasKeyboard(false);
+}
+
+void ContentView::toggleByKeyboard()
+{
+    toggle();
+    setHasKeyboard(true);
 }
 
 void ContentView::toggle()
@@ -350,7 +387,7 @@ void ContentView::setState(bool isExpanded, bool userExpanded)
         shownHUD_.reset();
     updateSize();
     if (presentation() != Presentation::Expanded)
-        setTyping(false);
+        keyboardLeft();
     if (presentation() != before)
         Q_EMIT presentationChanged();
     if (hudEnded)

@@ -72,8 +72,15 @@ public:
     bool isTyping() const { return isTyping_; }
     void setTyping(bool typing);
 
+    /// The dashboard was opened without a pointer and has the keyboard: until it closes, or until
+    /// the user turns to another window. Every key begins the time anew after which it closes.
+    bool hasKeyboard() const { return hasKeyboard_; }
+    void keyPressed();
+    void keyboardLeft();
+
     /// Opens the dashboard, or closes what is open.
     void toggle();
+    void toggleByKeyboard();
 
     /// Ends the HUD on show and forgets the activity it left behind.
     void dismissHUD();
@@ -90,6 +97,8 @@ Q_SIGNALS:
     void typingChanged();
 
 private:
+    void setHasKeyboard(bool has);
+    void updateKey();
     void observe(NotificationCenter &notificationCenter);
     void offerPages();
 
@@ -127,6 +136,8 @@ private:
     bool pointerInside_ = false;
     bool isDraggingFile_ = false;
     bool isTyping_ = false;
+    bool hasKeyboard_ = false;
+    bool isKey_ = false; ///< what is typed comes here, for either of these
     bool openedByDrag_ = false;
     std::optional<IslandPage> pageBeforeDrag_;
     std::optional<HUDContent> shownHUD_;

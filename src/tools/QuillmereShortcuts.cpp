@@ -190,7 +190,7 @@ QString QuillmereShortcuts::stopCountdown()
 
 QString QuillmereShortcuts::toggleIsland()
 {
-    notificationCenter_.post(events::islandTapped);
+    notificationCenter_.post(events::islandTapped, {{events::byKeyboard, true}});
     return Words::tr("Toggled the island.");
 }
 

@@ -38,9 +38,8 @@ Item {
             return area.containsPress || button.chosen ? Ink.pressed : hover.hovered ? Ink.raised : Ink.card;
         }
         visible: !button.flat || button.chosen || hover.hovered || area.containsPress || button.activeFocus
-        border.width: button.activeFocus ? 1.5 : 0
-        border.color: Ink.content
     }
+    FocusRing {}
     Row {
         id: row
 

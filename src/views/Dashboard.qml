@@ -14,7 +14,7 @@ FocusScope {
     focus: true
     Window.onActiveChanged: {
         if (!Window.active)
-            model.typing = false;
+            model.keyboardLeft();
     }
     Keys.onEscapePressed: model.pickerOpen ? model.closePicker() : model.close()
     Keys.onPressed: event => {
@@ -26,6 +26,24 @@ FocusScope {
             return;
         model.stepPage(event.key === forward ? 1 : -1);
         event.accepted = true;
+    }
+
+    // Where the keyboard is until Tab takes it to a control, and again on every page.
+    Item {
+        id: home
+
+        focus: true
+    }
+    Connections {
+        target: dashboard.model
+        function onPageChanged() {
+            if (dashboard.activeFocus && !dashboard.model.typing)
+                home.forceActiveFocus();
+        }
+        function onPickerOpenChanged() {
+            if (dashboard.activeFocus)
+                home.forceActiveFocus();
+        }
     }
 
     Item {

@@ -178,7 +178,8 @@ void DashboardModel::updateLevel()
     const auto &hud = hudManager_.currentHUD();
     const bool shows = hud && isLevel(hud->type) && isOpen();
     if (shows)
-        level_.setFace(hudFace(*hud, hudLook(settings_, outputPicker_), desktopAccent(appearance_)));
+        level_.setFace(
+            hudFace(*hud, hudLook(settings_, outputPicker_), desktopAccent(appearance_)));
     if (std::exchange(showsLevel_, shows) != shows)
         Q_EMIT levelChanged();
 }
@@ -204,8 +205,8 @@ void DashboardModel::updateActivity()
         return;
     const auto &queue = hudManager_.hudQueue();
     if (!queue.isEmpty())
-        activity_.setFace(hudFace(queue.at(hudManager_.currentQueueIndex()), hudLook(settings_, outputPicker_),
-                                  desktopAccent(appearance_)));
+        activity_.setFace(hudFace(queue.at(hudManager_.currentQueueIndex()),
+                                  hudLook(settings_, outputPicker_), desktopAccent(appearance_)));
     Q_EMIT activityChanged();
 }
 
@@ -261,6 +262,16 @@ void DashboardModel::close()
 {
     if (isOpen())
         contentView_.toggle();
+}
+
+void DashboardModel::keyboardLeft()
+{
+    contentView_.keyboardLeft();
+}
+
+void DashboardModel::keyPressed()
+{
+    contentView_.keyPressed();
 }
 
 void DashboardModel::showPage(int index)

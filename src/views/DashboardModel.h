@@ -129,6 +129,11 @@ public:
     QVariantList trayFiles() const;
 
     Q_INVOKABLE void close();
+
+    /// The window has the keyboard no longer.
+    Q_INVOKABLE void keyboardLeft();
+    void keyPressed();
+
     Q_INVOKABLE void showPage(int index);
     Q_INVOKABLE void stepPage(int step);
     Q_INVOKABLE void stepActivity(int step);

@@ -82,6 +82,13 @@ void IslandWindow::fitScene()
         scene_->setSize(size());
 }
 
+void IslandWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (dashboard_)
+        dashboard_->keyPressed();
+    QQuickWindow::keyPressEvent(event);
+}
+
 void IslandWindow::announceHUD()
 {
     if (island_ && island_->shownFace() >= 0)

@@ -28,6 +28,9 @@ public:
     void setIsland(IslandModel &island, DashboardModel &dashboard);
     void clearIsland();
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void fitScene();
     void announceHUD();

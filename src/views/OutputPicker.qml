@@ -88,6 +88,8 @@ Item {
                 radius: 10
                 color: Ink.card
                 visible: hover.hovered || row.activeFocus
+                border.width: row.activeFocus ? 1.5 : 0
+                border.color: Ink.content
             }
             Glyph {
                 id: glyph

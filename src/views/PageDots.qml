@@ -40,7 +40,12 @@ Row {
             }
             Disc {
                 anchors.centerIn: parent
-                width: dot.activeFocus ? 8 : 5
+                width: 5
+
+                FocusRing {
+                    anchors.margins: -4
+                    visible: dot.activeFocus
+                }
                 color: dot.shown ? Ink.accent : hover.hovered ? Ink.secondary : Ink.faint
             }
             MouseArea {

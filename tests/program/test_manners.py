@@ -110,6 +110,47 @@ class MannersTest(DesktopTest):
             self.desktop.run("xdotool", "key", "d")
             wait_until(lambda: self.count("KeyPress") == keys + 3, 3, "the key after the collapse")
 
+    def test_a_shortcut_opens_it_for_the_keyboard(self):
+        self.start_neighbour()
+        island = self.start_island({"enableCountdownTimer": True, "showSystemMonitor": False})
+        island.wait_out_mute()
+
+        def key(*names):
+            self.desktop.run("xdotool", "key", "--delay", "60", *names)
+
+        def opened():
+            island.toggle()
+            island.wait_for("Presentation", "expanded")
+            wait_until(lambda: "neighbour" not in self.typed_in(), 3, "the keyboard")
+
+        keys = self.count("KeyPress")
+        opened()
+        for page in ("weather", "timer"):
+            key("Right")
+            island.wait_for("Page", page)
+        key("Left")
+        island.wait_for("Page", "weather")
+        key("Right", "Tab", "space")  # the tool
+        key("Tab", "Return")  # its first length
+        wait_until(lambda: island.get("Timers")["isRunning"], 3, "the countdown")
+        self.assertEqual(island.get("Timers")["targetSeconds"], 60)
+        key("Left")  # from a control that the page took with it
+        island.wait_for("Page", "weather")
+        key("Escape")
+        island.wait_until_collapsed()
+        wait_until(lambda: "neighbour" in self.typed_in(), 3, "the keyboard to go back")
+        self.assertEqual(self.count("KeyPress"), keys)
+        key("a")
+        wait_until(lambda: self.count("KeyPress") == keys + 1, 3, "the neighbour's key")
+
+        opened()
+        self.desktop.run("xdotool", *self.click(200, 300))  # the user turns to the neighbour
+        wait_until(lambda: "neighbour" in self.typed_in(), 3, "the keyboard to go back")
+        island.wait_until_collapsed()
+        opened()
+        island.wait_until_collapsed()  # by itself
+        wait_until(lambda: "neighbour" in self.typed_in(), 3, "the keyboard to go back")
+
     def test_opening_and_closing_take_nothing_from_the_neighbour(self):
         self.start_neighbour()
         island = self.start_island()

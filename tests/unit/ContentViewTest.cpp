@@ -22,6 +22,10 @@ protected:
     ContentViewTest() { logger.setEnabled(true); }
 
     void tap() { fixture.notifications.post(events::islandTapped); }
+    void tapByKeyboard()
+    {
+        fixture.notifications.post(events::islandTapped, {{events::byKeyboard, true}});
+    }
     void post(QLatin1StringView event) { fixture.notifications.post(event); }
 
     void message(double duration, const char *title = "Hello", bool keep = false)
@@ -403,7 +407,7 @@ TEST_F(ContentViewTest, RandomWalkNeverLeavesTheIslandOpenOrClosesItUnderTheHand
             inside ? content.pointerEntered() : content.pointerExited();
             break;
         case 2:
-            tap();
+            pick(2) ? tap() : tapByKeyboard();
             break;
         case 3:
             hud.showVolume(pick(101), 1 + pick(3));
@@ -425,6 +429,8 @@ TEST_F(ContentViewTest, RandomWalkNeverLeavesTheIslandOpenOrClosesItUnderTheHand
             break;
         case 8:
             pick(2) ? content.dismissHUD() : content.setTyping(pick(2));
+            if (!pick(3))
+                content.keyboardLeft();
             break;
         case 9:
             runLoop.advance(std::chrono::seconds(pick(12)));
@@ -446,7 +452,36 @@ TEST_F(ContentViewTest, RandomWalkNeverLeavesTheIslandOpenOrClosesItUnderTheHand
         ASSERT_LE(content.userExpanded(), content.isExpanded());
         ASSERT_EQ(content.shownHUD().has_value(), content.presentation() == Presentation::HUD);
         ASSERT_EQ(panel.size(), content.islandSize());
+        ASSERT_EQ(panelWindow.key, content.isTyping() || content.hasKeyboard());
+        ASSERT_FALSE(panelWindow.key && content.presentation() != Presentation::Expanded);
     }
+}
+
+TEST_F(ContentViewTest, WhatIsOpenedWithoutAPointerHasTheKeyboardUntilItCloses)
+{
+    tap();
+    EXPECT_FALSE(panelWindow.key);
+    tap();
+    tapByKeyboard();
+    EXPECT_TRUE(panelWindow.key);
+    for (int key = 0; key < 10; ++key) {
+        runLoop.advance(3s);
+        content.keyPressed();
+    }
+    EXPECT_EQ(shown(), "expanded");
+    content.setTyping(true);
+    content.setTyping(false);
+    EXPECT_TRUE(panelWindow.key) << "it had it before";
+    runLoop.advance(5s);
+    EXPECT_EQ(shown(), "collapsed");
+    EXPECT_FALSE(panelWindow.key);
+
+    tapByKeyboard();
+    content.keyboardLeft(); // for another window
+    EXPECT_FALSE(panelWindow.key);
+    EXPECT_EQ(shown(), "expanded");
+    tapByKeyboard();
+    EXPECT_FALSE(panelWindow.key) << "closed";
 }
 
 } // namespace
