@@ -2,6 +2,7 @@
 
 #include "island/HUDManager.h"
 #include "messages/MessageHUD.h"
+#include "platform/ApplicationIcons.h"
 #include "platform/Platform.h"
 #include "settings/SettingsStore.h"
 
@@ -12,6 +13,7 @@ namespace quillmere {
 Messages::Messages(Platform &platform, SettingsStore &settings, HUDManager &hudManager,
                    QString home, std::function<bool()> isSuppressed)
     : settings_(settings)
+    , icons_(platform.applicationIcons)
     , hudManager_(hudManager)
     , isSuppressed_(std::move(isSuppressed))
     , mail_(platform.runLoop, settings, platform.scriptRunner, platform.newMailSignal)
@@ -38,6 +40,27 @@ Messages::Messages(Platform &platform, SettingsStore &settings, HUDManager &hudM
                      [this](const QString &key) { settingChanged(key); });
 }
 
+void Messages::startMail()
+{
+    mail_.start();
+    learnIcons();
+}
+
+void Messages::startNotifications()
+{
+    notifications_.start();
+    learnIcons();
+}
+
+/// So that they are there when somebody writes.
+void Messages::learnIcons()
+{
+    for (const auto app : watchedApps(settings_))
+        icons_.icon(bundleIdentifier(app));
+    if (settings_.showEmailHUD.get())
+        icons_.icon(mailBundleIdentifier);
+}
+
 void Messages::stop()
 {
     mail_.stop();
@@ -54,6 +77,8 @@ void Messages::settingChanged(const QString &key)
     if (isSwitchedOn || key == settings_.slackPollInterval.key() ||
         key == settings_.discordPollInterval.key())
         restartNotifications();
+    if (isSwitchedOn || key == settings_.showEmailHUD.key())
+        learnIcons();
     if (mail_.isRunning() &&
         (key == settings_.showEmailHUD.key() || key == settings_.emailPollInterval.key())) {
         mail_.stop();
@@ -71,8 +96,11 @@ void Messages::restartNotifications()
 
 void Messages::show(HUDContent hud, double duration)
 {
-    if (!isSuppressed_())
-        hudManager_.show(std::move(hud), true, duration);
+    if (isSuppressed_())
+        return;
+    if (QImage icon = icons_.icon(hud.bundleID.value_or(QString())); !icon.isNull())
+        hud.artworkImage = std::move(icon);
+    hudManager_.show(std::move(hud), true, duration);
 }
 
 } // namespace quillmere

@@ -9,6 +9,7 @@
 
 namespace quillmere {
 
+class ApplicationIcons;
 class HUDManager;
 struct HUDContent;
 struct Platform;
@@ -23,8 +24,8 @@ public:
     Messages(Platform &platform, SettingsStore &settings, HUDManager &hudManager, QString home,
              std::function<bool()> isSuppressed);
 
-    void startMail() { mail_.start(); }
-    void startNotifications() { notifications_.start(); }
+    void startMail();
+    void startNotifications();
     void stop();
 
     EmailMonitor &mail() { return mail_; }
@@ -33,9 +34,11 @@ public:
 private:
     void settingChanged(const QString &key);
     void restartNotifications();
+    void learnIcons();
     void show(HUDContent hud, double duration);
 
     SettingsStore &settings_;
+    ApplicationIcons &icons_;
     HUDManager &hudManager_;
     std::function<bool()> isSuppressed_;
     EmailMonitor mail_;

@@ -3,6 +3,7 @@
 namespace quillmere {
 
 class Appearance;
+class ApplicationIcons;
 class ApplicationLauncher;
 class AudioHardware;
 class AudioStreams;
@@ -82,6 +83,7 @@ struct Platform {
     NotificationFeed &notificationFeed;
     NewMailSignal &newMailSignal;
     ApplicationLauncher &applicationLauncher;
+    ApplicationIcons &applicationIcons;
     StatePublisher &statePublisher;
     RemoteControl &remoteControl;
     ShortcutPublisher &shortcutPublisher;

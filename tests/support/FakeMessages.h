@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ApplicationIcons.h"
 #include "platform/ApplicationLauncher.h"
 #include "platform/Listeners.h"
 #include "platform/NewMailSignal.h"
@@ -40,6 +41,16 @@ struct FakeNotificationFeed : NotificationFeed {
 struct FakeNewMailSignal : NewMailSignal {
     Task onNewMail(Listener listener) override { return listeners.add(std::move(listener)); }
     Listeners<const QString &, const QString &> listeners;
+};
+
+struct FakeApplicationIcons : ApplicationIcons {
+    QImage icon(const QString &bundleID) override
+    {
+        wanted.append(bundleID);
+        return image;
+    }
+    QStringList wanted;
+    QImage image;
 };
 
 struct FakeApplicationLauncher : ApplicationLauncher {

@@ -128,6 +128,7 @@ protected:
     FakeNotificationFeed notificationFeed;
     FakeNewMailSignal newMailSignal;
     FakeApplicationLauncher launcher;
+    FakeApplicationIcons icons;
     Platform platform{runLoop,
                       notifications,
                       defaults,
@@ -165,6 +166,7 @@ protected:
                       notificationFeed,
                       newMailSignal,
                       launcher,
+                      icons,
                       state,
                       remote,
                       desktop};
@@ -282,13 +284,18 @@ TEST_F(AppDelegateTest, MessagesAndMailAreShownAsFarAsTheyAreWanted)
 
     app->settings().showSlackHUD.set(true);
     runLoop.settle();
+    EXPECT_EQ(icons.wanted, QStringList(QStringLiteral("com.tinyspeck.slackmacgap")))
+        << "before it is needed";
     notificationFeed.listeners.notify(chat);
+    EXPECT_FALSE(app->hudManager().currentHUD()->artworkImage);
+    icons.image = QImage(8, 8, QImage::Format_ARGB32_Premultiplied);
     EXPECT_EQ(state.hud().value(QStringLiteral("title")), QStringLiteral("Ada"));
     EXPECT_EQ(state.hud().value(QStringLiteral("type")), QStringLiteral("notification"));
     app->settings().showEmailHUD.set(true);
     newMailSignal.listeners.notify(QStringLiteral("Ada <a@b>"), QStringLiteral("Lunch?"));
     EXPECT_EQ(state.hud().value(QStringLiteral("title")), QStringLiteral("Lunch?"));
     EXPECT_EQ(state.hud().value(QStringLiteral("subtitle")), QStringLiteral("Ada"));
+    EXPECT_EQ(app->hudManager().currentHUD()->artworkImage, icons.image);
     EXPECT_EQ(app->hudManager().hudQueue().size(), 2);
     app->terminate();
     EXPECT_TRUE(notificationFeed.listeners.isEmpty());

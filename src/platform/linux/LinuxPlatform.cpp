@@ -4,6 +4,7 @@
 #include "platform/linux/dbus/DBusService.h"
 
 #include <QCoreApplication>
+#include <QIcon>
 
 namespace quillmere {
 
@@ -62,6 +63,7 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
     , reachability_(runLoop)
     , notificationFeed_(runLoop, sessionBusAddress())
     , newMailSignal_(sessionBus(bus))
+    , applicationIcons_(runLoop, &QIcon::themeName)
     , services_{runLoop,
                 notificationCenter_,
                 userDefaults_,
@@ -99,6 +101,7 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
                 notificationFeed_,
                 newMailSignal_,
                 applicationLauncher_,
+                applicationIcons_,
                 bus.statePublisher(),
                 bus.remoteControl(),
                 bus.shortcuts()}

@@ -12,6 +12,7 @@
 #include "platform/linux/audio/PulseAudioStreams.h"
 #include "platform/linux/bluetooth/BusBluetoothBatteries.h"
 #include "platform/linux/desktop/AutostartLoginItem.h"
+#include "platform/linux/desktop/DesktopIcons.h"
 #include "platform/linux/desktop/DesktopLauncher.h"
 #include "platform/linux/desktop/FileUserDefaults.h"
 #include "platform/linux/desktop/FolderCloudStore.h"
@@ -86,6 +87,7 @@ private:
     BusNotificationFeed notificationFeed_;
     EvolutionMail newMailSignal_;
     DesktopLauncher applicationLauncher_;
+    DesktopIcons applicationIcons_;
     Platform services_;
 };
 

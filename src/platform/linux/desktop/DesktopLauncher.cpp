@@ -1,77 +1,15 @@
 #include "platform/linux/desktop/DesktopLauncher.h"
 
+#include "platform/linux/desktop/DesktopEntries.h"
+
 #include <QDebug>
 #include <QDesktopServices>
-#include <QFile>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QUrl>
-
-#include <algorithm>
-#include <array>
 
 namespace quillmere {
 
 namespace {
-
-/// How applications that others name are called here.
-struct KnownApplication {
-    QLatin1StringView bundleID;
-    QLatin1StringView desktopEntries; ///< distribution's, Flatpak's and snap's first
-    QLatin1StringView page;           ///< in the browser, where none is installed
-};
-
-constexpr std::array knownApplications{
-    KnownApplication{QLatin1StringView("com.tinyspeck.slackmacgap"),
-                     QLatin1StringView("slack com.slack.Slack slack_slack"),
-                     QLatin1StringView("https://app.slack.com/")},
-    KnownApplication{QLatin1StringView("com.hnc.Discord"),
-                     QLatin1StringView("discord com.discordapp.Discord discord_discord "
-                                       "discord-canary discord-ptb vesktop dev.vencord.Vesktop"),
-                     QLatin1StringView("https://discord.com/app")},
-    KnownApplication{QLatin1StringView("com.spotify.client"),
-                     QLatin1StringView("spotify com.spotify.Client spotify_spotify"),
-                     QLatin1StringView("https://open.spotify.com/")},
-    KnownApplication{QLatin1StringView("com.apple.mail"),
-                     QLatin1StringView("thunderbird org.mozilla.Thunderbird "
-                                       "net.thunderbird.Thunderbird thunderbird_thunderbird "
-                                       "org.gnome.Evolution org.gnome.Geary org.kde.kmail2"),
-                     QLatin1StringView()}};
-
-/// What the user has chosen for links to mail addresses.
-QString chosenMailProgram()
-{
-    static const QByteArray key("x-scheme-handler/mailto=");
-    for (const QString &path : QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation,
-                                                         QStringLiteral("mimeapps.list")) +
-                                   QStandardPaths::locateAll(QStandardPaths::ApplicationsLocation,
-                                                             QStringLiteral("mimeapps.list"))) {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        while (!file.atEnd()) {
-            constexpr qint64 longestLine = 4'096;
-            const QByteArray line = file.readLine(longestLine).trimmed();
-            if (line.startsWith(key))
-                return QString::fromUtf8(line.mid(key.size()).split(';').first())
-                    .remove(QStringLiteral(".desktop"));
-        }
-    }
-    return {};
-}
-
-QString entryFile(const QStringList &names)
-{
-    for (const QString &name : names) {
-        QString file = name.isEmpty() || name.contains(u'/')
-                           ? QString()
-                           : QStandardPaths::locate(QStandardPaths::ApplicationsLocation,
-                                                    name + QStringLiteral(".desktop"));
-        if (!file.isEmpty())
-            return file;
-    }
-    return {};
-}
 
 bool launch(const QString &entryFile)
 {
@@ -88,18 +26,10 @@ bool launch(const QString &entryFile)
 
 bool DesktopLauncher::open(const QString &bundleID)
 {
-    const auto known = std::ranges::find(knownApplications, bundleID, &KnownApplication::bundleID);
-    QStringList names{bundleID};
-    QString page;
-    if (known != knownApplications.end()) {
-        names = QString(known->desktopEntries).split(u' ');
-        page = known->page;
-        if (page.isEmpty()) // each desktop has its own mail program
-            names.prepend(chosenMailProgram());
-    }
-    const QString file = entryFile(names);
+    const QString file = desktopEntryOf(bundleID);
     if (!file.isEmpty() && launch(file))
         return true;
+    const QString page = pageOf(bundleID);
     if (!page.isEmpty() && QDesktopServices::openUrl(QUrl(page)))
         return true;
     qWarning("[Quillmere] There is no application %s to open", qUtf8Printable(bundleID));
