@@ -7,6 +7,7 @@
 #include "platform/linux/core/XdgPaths.h"
 #include "platform/linux/dbus/DBusService.h"
 #include "platform/linux/dbus/LaunchRequest.h"
+#include "setupwindow/OnboardingController.h"
 #include "views/DashboardModel.h"
 #include "views/Glyphs.h"
 #include "views/IslandModel.h"
@@ -45,7 +46,9 @@ public:
         : bus_(bus)
         , platform_(runLoop, window_, bus, &trayIcon)
         , app_(platform_.services(), xdg::stateHome(), QStringLiteral(QUILLMERE_VERSION))
+        , onboardingController_(platform_.services(), app_.settings())
     {
+        app_.appDelegate().onShowOnboarding = [this] { onboardingController_.show(); };
         app_.appDelegate().onIslandCreated = [this](Island island) { show(island); };
         app_.launch([this] { bus_.stop([] { QCoreApplication::quit(); }); });
     }
@@ -114,6 +117,7 @@ private:
     IslandWindow window_;
     LinuxPlatform platform_;
     QuillmereApp app_;
+    OnboardingController onboardingController_;
     std::optional<IslandModel> model_;
     std::optional<DashboardModel> dashboard_;
 };
@@ -176,7 +180,6 @@ int main(int argc, char **argv)
     QGuiApplication application(argc, argv);
     choice.reset();
     QGuiApplication::setApplicationName(QStringLiteral("quillmere"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Quillmere"));
     QGuiApplication::setApplicationVersion(QStringLiteral(QUILLMERE_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quillmere.Quillmere"));
     QGuiApplication::setQuitOnLastWindowClosed(false);

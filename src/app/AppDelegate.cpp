@@ -60,6 +60,7 @@ AppDelegate::~AppDelegate() = default;
 void AppDelegate::applicationDidFinishLaunching()
 {
     createUpdater();
+    createOnboarding();
     createStatusItem();
     createIsland();
     createMonitors();
@@ -85,6 +86,18 @@ void AppDelegate::createUpdater()
     updaterController_->onUpToDate = [show] { show(upToDateHUD()); };
     updaterController_->onFailure = [show](const QString &text) { show(updateFailedHUD(text)); };
     updaterController_->startUpdater();
+}
+
+void AppDelegate::createOnboarding()
+{
+    const auto show = [this] {
+        if (onShowOnboarding)
+            onShowOnboarding();
+    };
+    onboardingObserver_ = platform_.notificationCenter.observe(
+        events::showOnboarding, [show](const QVariantMap &) { show(); });
+    if (!settings_.hasCompletedOnboarding.get())
+        show();
 }
 
 void AppDelegate::createStatusItem()
@@ -364,6 +377,7 @@ void AppDelegate::applicationWillTerminate()
         fileDragWatcher_->stop();
     screenParametersObserver_.cancel();
     fileDroppedObserver_.cancel();
+    onboardingObserver_.cancel();
     gestures_.reset();
     audioAvailability_.cancel();
     if (volumeMonitor_)

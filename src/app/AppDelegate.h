@@ -90,11 +90,15 @@ public:
 
     std::function<void()> onTerminate;
 
+    /// The setup window is to be shown: at the first launch, and whenever somebody asks for it.
+    std::function<void()> onShowOnboarding;
+
     /// The island exists and can be given its content.
     std::function<void(Island island)> onIslandCreated;
 
 private:
     void createUpdater();
+    void createOnboarding();
     void createStatusItem();
     void createIsland();
     void createMonitors();
@@ -139,6 +143,7 @@ private:
     std::unique_ptr<WeatherReports> weather_;
     std::unique_ptr<SystemLoad> systemLoad_;
     std::unique_ptr<Updater> updaterController_;
+    Task onboardingObserver_;
     Task audioAvailability_;
     Task outputAvailability_;
     Task outputSettling_;

@@ -15,6 +15,9 @@ struct AccentColor {
     bool operator==(const AccentColor &) const = default;
 };
 
+/// Which of light and dark the user prefers.
+enum class ColorScheme { NoPreference, Dark, Light };
+
 /// How the user wants programs to look and move. Answers at once from what is known; until the
 /// desktop has answered, and on desktops that tell nothing, these are the defaults. Main thread
 /// only.
@@ -26,6 +29,7 @@ public:
     virtual bool reducesMotion() const = 0;
     virtual bool highContrast() const = 0;
     virtual std::optional<AccentColor> accentColor() const = 0; ///< absent: the user chose none
+    virtual ColorScheme colorScheme() const { return ColorScheme::NoPreference; }
 
     /// Called after any of the values above has really changed.
     virtual Task onChanged(std::function<void()> listener) = 0;

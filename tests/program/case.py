@@ -19,8 +19,8 @@ class DesktopTest(unittest.TestCase):
     def setUp(self):
         self.desktop = self.enterContext(self.kind(self.scale))
 
-    def start_island(self, defaults=None):
-        island = self.enterContext(Island(self.desktop, BUILD, defaults))
+    def start_island(self, defaults=None, first_run=False):
+        island = self.enterContext(Island(self.desktop, BUILD, defaults, first_run))
         self.addCleanup(self.check_output, island)
         return island
 

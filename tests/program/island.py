@@ -30,16 +30,18 @@ def is_white(pixel):
 
 
 class Island:
-    """One start of the program on a private desktop; ends with the `with` block at the latest."""
+    """One start of the program on a private desktop; ends with the `with` block at the latest. Its user
+    has seen the setup window before, unless it is the `first_run`."""
 
-    def __init__(self, desktop, build, defaults=None):
+    def __init__(self, desktop, build, defaults=None, first_run=False):
         self.desktop = desktop
         self.program = Path(build) / "bin" / "quillmere"
         self._ctl = Path(build) / "bin" / "quillmerectl"
         self.config = desktop.dir / "config" / "quillmere"
         self._stderr = "quillmere.log"
-        if defaults is not None:
-            self.write_defaults(defaults)
+        self._known = {} if first_run else {"hasCompletedOnboarding": True}
+        if defaults is not None or not os.path.lexists(self.config):
+            self.write_defaults(defaults or {})
 
     def __enter__(self):
         self.start()
@@ -120,7 +122,7 @@ class Island:
         return self.config / "defaults.json"
 
     def write_defaults(self, values):
-        self.write_file(self.defaults_file, json.dumps(values))
+        self.write_file(self.defaults_file, json.dumps(self._known | values))
 
     @staticmethod
     def write_file(path, text):

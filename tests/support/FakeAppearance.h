@@ -14,6 +14,7 @@ public:
     bool reducesMotion() const override { return reduced; }
     bool highContrast() const override { return contrast; }
     std::optional<AccentColor> accentColor() const override { return accent; }
+    ColorScheme colorScheme() const override { return scheme; }
     Task onChanged(std::function<void()> listener) override
     {
         return listeners_.add(std::move(listener));
@@ -22,6 +23,7 @@ public:
     bool reduced = false;
     bool contrast = false;
     std::optional<AccentColor> accent;
+    ColorScheme scheme = ColorScheme::NoPreference;
 
 private:
     Listeners<> listeners_;

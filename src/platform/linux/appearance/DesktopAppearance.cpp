@@ -29,6 +29,14 @@ bool isBool(const QVariant &value, bool expected)
     return value.typeId() == QMetaType::Bool && value.toBool() == expected;
 }
 
+ColorScheme toScheme(const QVariant &value)
+{
+    const uint number = value.typeId() == QMetaType::UInt ? value.toUInt() : 0;
+    return number == 1   ? ColorScheme::Dark
+           : number == 2 ? ColorScheme::Light
+                         : ColorScheme::NoPreference;
+}
+
 std::optional<AccentColor> toColor(const QVariant &value)
 {
     if (value.metaType() != QMetaType::fromType<QDBusArgument>())
@@ -58,6 +66,7 @@ AppearanceValues appearanceFrom(const SettingsByNamespace &portal, const KdeGlob
                            isBool(value(gnome, "enable-animations"), false) || !kde.isAnimated;
     result.highContrast =
         isOne(value(common, "contrast")) || isBool(value(gnomeAccess, "high-contrast"), true);
+    result.scheme = toScheme(value(common, "color-scheme"));
     result.accent = toColor(value(common, "accent-color"));
     if (!result.accent)
         result.accent = kde.accent;

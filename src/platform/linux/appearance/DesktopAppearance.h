@@ -13,6 +13,7 @@ struct AppearanceValues {
     bool reducesMotion = false;
     bool highContrast = false;
     std::optional<AccentColor> accent = std::nullopt;
+    ColorScheme scheme = ColorScheme::NoPreference;
     bool operator==(const AppearanceValues &) const = default;
 };
 
@@ -34,6 +35,7 @@ public:
     bool reducesMotion() const override { return values_.reducesMotion; }
     bool highContrast() const override { return values_.highContrast; }
     std::optional<AccentColor> accentColor() const override { return values_.accent; }
+    ColorScheme colorScheme() const override { return values_.scheme; }
     Task onChanged(std::function<void()> listener) override;
 
 private:

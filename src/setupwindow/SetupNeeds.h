@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+namespace quillmere {
+
+struct Platform;
+
+/// What a source needs on this machine, as one line for a person.
+struct SetupNeed {
+    QString text;
+    bool isMet = true; ///< false: something is missing that the user can mend
+    bool operator==(const SetupNeed &) const = default;
+};
+
+SetupNeed soundNeed(const Platform &platform);
+SetupNeed headphonesNeed(const Platform &platform);
+SetupNeed brightnessNeed(const Platform &platform);
+SetupNeed mediaNeed(const Platform &platform);
+SetupNeed batteryNeed(const Platform &platform);
+SetupNeed weatherNeed(const Platform &platform);
+SetupNeed messagesNeed(const Platform &platform);
+SetupNeed mailNeed(const Platform &platform);
+SetupNeed fileTrayNeed(const Platform &platform);
+SetupNeed timersNeed(const Platform &platform);
+
+} // namespace quillmere

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/Task.h"
+#include "setupwindow/SetupNeeds.h"
+
+#include <QColor>
+#include <QObject>
+#include <QStringList>
+
+#include <vector>
+
+namespace quillmere {
+
+class SettingsStore;
+class Setting;
+
+/// What the island can tell of, as it stands in the table of all.
+struct SetupSourceInfo {
+    const char *title; ///< translated in this class
+    QLatin1StringView symbol;
+    QRgb color;
+    QStringList keys; ///< the settings that one switch stands for
+    SetupNeed (*need)(const Platform &platform);
+};
+
+/// All of them, in the order in which they are offered.
+std::vector<SetupSourceInfo> setupSources();
+
+/// One switch of the setup window: on while any of its settings is. Main thread only.
+class SetupSource : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString symbol READ symbol CONSTANT)
+    Q_PROPERTY(QColor color READ color CONSTANT)
+    Q_PROPERTY(bool isOn READ isOn WRITE setOn NOTIFY isOnChanged)
+    Q_PROPERTY(QString need READ need NOTIFY needChanged)
+    Q_PROPERTY(bool isMet READ isMet NOTIFY needChanged)
+
+public:
+    SetupSource(const Platform &platform, SettingsStore &settings, SetupSourceInfo info);
+
+    QString title() const;
+    QString symbol() const { return info_.symbol; }
+    QColor color() const { return QColor::fromRgb(info_.color); }
+    bool isOn() const { return isOn_; }
+    void setOn(bool on);
+    QString need() const { return need_.text; }
+    bool isMet() const { return need_.isMet; }
+
+    /// Looks again at what the machine has.
+    void refreshNeed();
+
+Q_SIGNALS:
+    void isOnChanged();
+    void needChanged();
+
+private:
+    void readSettings();
+
+    const Platform &platform_;
+    const SetupSourceInfo info_;
+    std::vector<Setting *> settings_;
+    bool isOn_ = false;
+    SetupNeed need_;
+};
+
+} // namespace quillmere
