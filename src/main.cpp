@@ -20,6 +20,7 @@
 #include <QGuiApplication>
 #include <QLocale>
 #include <QSessionManager>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -163,6 +164,20 @@ void prepareEnvironment()
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
+/// Into the first of the user's languages that there is. The texts are English as they stand.
+void translate(QTranslator &translator)
+{
+    for (QString language : QLocale::system().uiLanguages()) {
+        if (language == QLatin1StringView("en") || language.startsWith(QLatin1StringView("en-")))
+            return;
+        if (translator.load(QStringLiteral(":/translations/quillmere_") +
+                            language.replace(u'-', u'_'))) {
+            QCoreApplication::installTranslator(&translator);
+            return;
+        }
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -183,6 +198,8 @@ int main(int argc, char **argv)
     QGuiApplication::setApplicationVersion(QStringLiteral(QUILLMERE_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quillmere.Quillmere"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    QTranslator translator;
+    translate(translator);
     // Of itself it follows the translation in use only: dates and names are the user's in any case.
     QGuiApplication::setLayoutDirection(QLocale().textDirection());
 

@@ -2,6 +2,8 @@
 
 #include "messages/BinaryPropertyList.h"
 
+#include <QCoreApplication>
+
 namespace quillmere {
 
 namespace {
@@ -65,7 +67,7 @@ std::optional<ParsedNotification> parsedNotification(const NotificationRow &row)
     if (notification.title.isEmpty())
         readArchive(*list, notification);
     if (notification.title.isEmpty())
-        notification.title = QStringLiteral("New message");
+        notification.title = QCoreApplication::translate("Notification", "New message");
     return notification;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/RunLoop.h"
 #include "views/PlainText.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -49,6 +50,26 @@ QString sinceText(qint64 seconds)
     return AssistantModel::tr("%1 min ago").arg(seconds / minute);
 }
 
+// For the translators: what the tools are called for people.
+[[maybe_unused]] constexpr const char *toolTexts[] = {
+    QT_TRANSLATE_NOOP("AssistantTool", "Editing file"),
+    QT_TRANSLATE_NOOP("AssistantTool", "Writing file"),
+    QT_TRANSLATE_NOOP("AssistantTool", "Reading file"),
+    QT_TRANSLATE_NOOP("AssistantTool", "Running command"),
+    QT_TRANSLATE_NOOP("AssistantTool", "Searching files"),
+    QT_TRANSLATE_NOOP("AssistantTool", "Searching code"),
+    QT_TRANSLATE_NOOP("AssistantTool", "Running sub-agent"),
+    QT_TRANSLATE_NOOP("AssistantTool", "Fetching web page"),
+    QT_TRANSLATE_NOOP("AssistantTool", "Searching web"),
+    QT_TRANSLATE_NOOP("AssistantTool", "Updating tasks"),
+};
+
+/// In the user's language; a tool that is not known keeps its name.
+QString toolText(const QString &label)
+{
+    return QCoreApplication::translate("AssistantTool", label.toUtf8().constData());
+}
+
 } // namespace
 
 AssistantModel::AssistantModel(RunLoop &runLoop, ClaudeCodeMonitor &monitor, QObject *parent)
@@ -78,9 +99,10 @@ void AssistantModel::update()
         face.project = plainText(session->projectName, longestName);
         if (face.project.isEmpty())
             face.project = tr("Claude Code");
-        face.tool = face.status == ClaudeCodeStatus::Idle
-                        ? QString()
-                        : plainText(session->currentTool.value_or(QString()), longestName);
+        face.tool =
+            face.status == ClaudeCodeStatus::Idle
+                ? QString()
+                : plainText(toolText(session->currentTool.value_or(QString())), longestName);
         face.prompt = plainText(session->lastPrompt.value_or(QString()), longestPrompt);
     }
     const bool wasActive = isActive();

@@ -4,6 +4,7 @@
 #include "settings/SettingsStore.h"
 #include "views/PlainText.h"
 #include "views/WeatherColor.h"
+#include "weather/ConditionText.h"
 #include "weather/TypedPlace.h"
 #include "weather/WeatherHUD.h"
 #include "weather/WeatherService.h"
@@ -131,7 +132,7 @@ QString WeatherModel::feelsLike() const
 
 QString WeatherModel::condition() const
 {
-    return plainText(weather().conditionLabel, longestName);
+    return plainText(conditionText(weather().conditionLabel), longestName);
 }
 
 QString WeatherModel::place() const

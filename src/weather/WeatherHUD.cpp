@@ -1,5 +1,7 @@
 #include "weather/WeatherHUD.h"
 
+#include "weather/ConditionText.h"
+
 #include <QCoreApplication>
 
 #include <cmath>
@@ -30,9 +32,9 @@ HUDContent weatherHUD(const WeatherData &weather, bool useFahrenheit)
         subtitle = Words::tr("%1, %2 to %3", "place, today's lowest and highest temperature")
                        .arg(subtitle, text(*weather.lowTemp, *weather.lowTempF),
                             text(*weather.highTemp, *weather.highTempF));
-    return {.title =
-                Words::tr("%1 %2", "temperature and condition")
-                    .arg(text(weather.temperature, weather.temperatureF), weather.conditionLabel),
+    return {.title = Words::tr("%1 %2", "temperature and condition")
+                         .arg(text(weather.temperature, weather.temperatureF),
+                              conditionText(weather.conditionLabel)),
             .subtitle = subtitle,
             .icon = weather.conditionIcon,
             .type = HUDContent::HUDType::Weather};

@@ -1,5 +1,6 @@
 #include "platform/linux/notifications/MessageSender.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -110,9 +111,11 @@ std::optional<ParsedNotification> chatMessage(const NotificationCall &call)
     if (const QString line = firstLine(text); isHostOf(*app, line))
         text = text.sliced(line.size()).trimmed();
     const QString title = call.title.trimmed();
-    return ParsedNotification{.appID = app->bundleIdentifier,
-                              .title = title.isEmpty() ? QStringLiteral("New message") : title,
-                              .body = text.isEmpty() ? std::nullopt : std::optional(text)};
+    return ParsedNotification{
+        .appID = app->bundleIdentifier,
+        .title =
+            title.isEmpty() ? QCoreApplication::translate("Notification", "New message") : title,
+        .body = text.isEmpty() ? std::nullopt : std::optional(text)};
 }
 
 } // namespace quillmere

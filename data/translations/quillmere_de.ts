@@ -1,0 +1,1296 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>ActivityCard</name>
+    <message>
+        <source>Previous activity</source>
+        <translation>Vorige Aktivität</translation>
+    </message>
+    <message>
+        <source>Next activity</source>
+        <translation>Nächste Aktivität</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>AssistantCard</name>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>Show recent activities</source>
+        <translation>Letzte Aktivitäten zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>AssistantTool</name>
+    <message>
+        <source>Editing file</source>
+        <translation>Bearbeitet Datei</translation>
+    </message>
+    <message>
+        <source>Writing file</source>
+        <translation>Schreibt Datei</translation>
+    </message>
+    <message>
+        <source>Reading file</source>
+        <translation>Liest Datei</translation>
+    </message>
+    <message>
+        <source>Running command</source>
+        <translation>Führt Befehl aus</translation>
+    </message>
+    <message>
+        <source>Searching files</source>
+        <translation>Sucht Dateien</translation>
+    </message>
+    <message>
+        <source>Searching code</source>
+        <translation>Sucht im Code</translation>
+    </message>
+    <message>
+        <source>Running sub-agent</source>
+        <translation>Lässt Helfer arbeiten</translation>
+    </message>
+    <message>
+        <source>Fetching web page</source>
+        <translation>Lädt Webseite</translation>
+    </message>
+    <message>
+        <source>Searching web</source>
+        <translation>Sucht im Netz</translation>
+    </message>
+    <message>
+        <source>Updating tasks</source>
+        <translation>Aktualisiert Aufgaben</translation>
+    </message>
+</context>
+<context>
+    <name>ClockPanel</name>
+    <message>
+        <source>Choose where sound plays</source>
+        <translation>Tonausgabe wählen</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceHUD</name>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+</context>
+<context>
+    <name>EmailMonitor</name>
+    <message>
+        <source>This is a test email notification</source>
+        <translation>Dies ist eine Test-E-Mail</translation>
+    </message>
+    <message>
+        <source>Testing email HUD display</source>
+        <translation>So sieht eine neue E-Mail aus</translation>
+    </message>
+    <message>
+        <source>Test notification sent!</source>
+        <translation>Testbenachrichtigung gesendet!</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>File Added</source>
+        <translation>Datei hinzugefügt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weitere</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FinishStep</name>
+    <message>
+        <source>Ready</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Change the volume and look at the top of the screen.</source>
+        <translation>Ändern Sie die Lautstärke und schauen Sie an den oberen Bildschirmrand.</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Bei der Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>The island is there whenever you are.</source>
+        <translation>Die Insel ist da, wenn Sie da sind.</translation>
+    </message>
+    <message>
+        <source>The settings show this again whenever you like.</source>
+        <translation>In den Einstellungen lässt sich dies jederzeit wieder aufrufen.</translation>
+    </message>
+</context>
+<context>
+    <name>HUD</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>A percentage, such as &quot;46%&quot;</extracomment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 %2 percent</source>
+        <translation>%1 %2 Prozent</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>Volume muted</source>
+        <translation>Ton aus</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>MainPage</name>
+    <message>
+        <source>Nothing is playing</source>
+        <translation>Keine Wiedergabe</translation>
+    </message>
+</context>
+<context>
+    <name>Media</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Playing: %1</source>
+        <translation>Läuft: %1</translation>
+    </message>
+    <message>
+        <source>Paused: %1</source>
+        <translation>Angehalten: %1</translation>
+    </message>
+    <message>
+        <source>Favorite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Shuffle</source>
+        <translation>Zufallswiedergabe</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Copy title and artist</source>
+        <translation>Titel und Interpret kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>MediaPanel</name>
+    <message>
+        <source>Show where it plays</source>
+        <translation>Zeigen, wo es läuft</translation>
+    </message>
+    <message>
+        <source>Previous track</source>
+        <translation>Voriger Titel</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Next track</source>
+        <translation>Nächster Titel</translation>
+    </message>
+    <message>
+        <source>Sound plays on %1; choose another output</source>
+        <translation>Ton läuft über %1; andere Ausgabe wählen</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHUD</name>
+    <message>
+        <source>%1 · %2</source>
+        <comment>where or who, and what</comment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>New email</source>
+        <translation>Neue E-Mail</translation>
+    </message>
+</context>
+<context>
+    <name>NeedsStep</name>
+    <message>
+        <source>On this machine</source>
+        <translation>Auf diesem Rechner</translation>
+    </message>
+    <message>
+        <source>What you switched on, and what it needs here.</source>
+        <translation>Was Sie eingeschaltet haben und was es hier braucht.</translation>
+    </message>
+</context>
+<context>
+    <name>Notification</name>
+    <message>
+        <source>New message</source>
+        <translation>Neue Nachricht</translation>
+    </message>
+</context>
+<context>
+    <name>NotificationCenterMonitor</name>
+    <message>
+        <source>No %1 notifications in database. Send yourself a DM or have someone message you, then try again. If you see &quot;Access denied&quot;, grant Full Disk Access: System Settings → Privacy &amp; Security → Full Disk Access → Quillmere.</source>
+        <translation>Keine Benachrichtigungen von %1 in der Datenbank. Schicken Sie sich selbst eine Nachricht oder lassen Sie sich eine schicken und versuchen Sie es noch einmal. Erscheint „Access denied“, gewähren Sie Festplattenvollzugriff: Systemeinstellungen → Datenschutz &amp; Sicherheit → Festplattenvollzugriff → Quillmere.</translation>
+    </message>
+    <message>
+        <source>Found %1 notification. Showing in island.</source>
+        <translation>Benachrichtigung von %1 gefunden. Die Insel zeigt sie.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputPicker</name>
+    <message>
+        <source>Sound output</source>
+        <translation>Tonausgabe</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>No output device</source>
+        <translation>Kein Ausgabegerät</translation>
+    </message>
+</context>
+<context>
+    <name>PageDots</name>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceSearchPanel</name>
+    <message>
+        <source>City or place</source>
+        <translation>Stadt oder Ort</translation>
+    </message>
+    <message>
+        <source>Use my location</source>
+        <translation>Meinen Standort verwenden</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <translation>Gefundene Orte</translation>
+    </message>
+</context>
+<context>
+    <name>PowerAlerts</name>
+    <message>
+        <source>%1% remaining</source>
+        <extracomment>What is left in a battery, such as &quot;20% remaining&quot;</extracomment>
+        <translation>Noch %1 %</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Lädt</translation>
+    </message>
+    <message>
+        <source>Plugged In</source>
+        <translation>Netzbetrieb</translation>
+    </message>
+    <message>
+        <source>On Battery</source>
+        <translation>Akkubetrieb</translation>
+    </message>
+    <message>
+        <source>Low Battery</source>
+        <translation>Akku fast leer</translation>
+    </message>
+    <message>
+        <source>Bluetooth device</source>
+        <translation>Bluetooth-Gerät</translation>
+    </message>
+    <message>
+        <source>The machine saves power and may be slower.</source>
+        <translation>Der Rechner spart Strom und ist vielleicht langsamer.</translation>
+    </message>
+    <message>
+        <source>The machine runs at its usual speed again.</source>
+        <translation>Der Rechner läuft wieder so schnell wie sonst.</translation>
+    </message>
+    <message>
+        <source>Low Power Mode On</source>
+        <translation>Stromsparmodus ein</translation>
+    </message>
+    <message>
+        <source>Low Power Mode Off</source>
+        <translation>Stromsparmodus aus</translation>
+    </message>
+</context>
+<context>
+    <name>QuillmereShortcuts</name>
+    <message>
+        <source>minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>there is no intent &quot;%1&quot;</source>
+        <translation>es gibt keinen Kurzbefehl „%1“</translation>
+    </message>
+    <message>
+        <source>there is no action &quot;%1&quot;</source>
+        <translation>es gibt keine Aktion „%1“</translation>
+    </message>
+    <message>
+        <source>Pomodoro started — %1 %2 of focus.</source>
+        <translation>Pomodoro gestartet – %1 %2 Konzentration.</translation>
+    </message>
+    <message>
+        <source>No Pomodoro session is running.</source>
+        <translation>Es läuft kein Pomodoro.</translation>
+    </message>
+    <message>
+        <source>Pomodoro stopped.</source>
+        <translation>Pomodoro beendet.</translation>
+    </message>
+    <message>
+        <source>Break skipped.</source>
+        <translation>Pause übersprungen.</translation>
+    </message>
+    <message>
+        <source>Focus session skipped.</source>
+        <translation>Konzentrationsphase übersprungen.</translation>
+    </message>
+    <message>
+        <source>Countdown started — %1 %2 to go.</source>
+        <translation>Countdown gestartet – noch %1 %2.</translation>
+    </message>
+    <message>
+        <source>No timer was running.</source>
+        <translation>Es lief kein Timer.</translation>
+    </message>
+    <message>
+        <source>Timer cancelled.</source>
+        <translation>Timer abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Toggled the island.</source>
+        <translation>Insel umgeschaltet.</translation>
+    </message>
+</context>
+<context>
+    <name>Scrubber</name>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+</context>
+<context>
+    <name>Setup</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Schritt %1 von %2</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>SetupNeeds</name>
+    <message>
+        <source>No sound server answers. Install PipeWire or PulseAudio.</source>
+        <translation>Kein Tonserver antwortet. Installieren Sie PipeWire oder PulseAudio.</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>Bereit.</translation>
+    </message>
+    <message>
+        <source>Ready. Sound goes to %1.</source>
+        <translation>Bereit. Der Ton geht an %1.</translation>
+    </message>
+    <message>
+        <source>Ready. The sound server tells when they connect.</source>
+        <translation>Bereit. Der Tonserver meldet, wenn welche verbunden werden.</translation>
+    </message>
+    <message>
+        <source>Ready. The display tells its brightness.</source>
+        <translation>Bereit. Der Bildschirm meldet seine Helligkeit.</translation>
+    </message>
+    <message>
+        <source>No display here tells its brightness yet.</source>
+        <translation>Noch meldet kein Bildschirm seine Helligkeit.</translation>
+    </message>
+    <message>
+        <source>Ready. Players and browsers are found by themselves.</source>
+        <translation>Bereit. Player und Browser werden von selbst gefunden.</translation>
+    </message>
+    <message>
+        <source>There is no session bus to hear players on.</source>
+        <translation>Ohne Sitzungsbus sind keine Player zu hören.</translation>
+    </message>
+    <message>
+        <source>No power service answers. Install UPower.</source>
+        <translation>Kein Energiedienst antwortet. Installieren Sie UPower.</translation>
+    </message>
+    <message>
+        <source>Ready. The battery is at %1 %.</source>
+        <translation>Bereit. Der Akku steht bei %1 %.</translation>
+    </message>
+    <message>
+        <source>This machine has no battery.</source>
+        <translation>Dieser Rechner hat keinen Akku.</translation>
+    </message>
+    <message>
+        <source>Ready, for the place you typed.</source>
+        <translation>Bereit, für den eingegebenen Ort.</translation>
+    </message>
+    <message>
+        <source>Ready. The desktop tells where you are.</source>
+        <translation>Bereit. Der Desktop meldet Ihren Standort.</translation>
+    </message>
+    <message>
+        <source>Asks the desktop where you are, or type a place on its page.</source>
+        <translation>Fragt den Desktop nach dem Standort; oder geben Sie auf der Seite einen Ort ein.</translation>
+    </message>
+    <message>
+        <source>The desktop keeps your location private. Type a place on its page.</source>
+        <translation>Der Desktop verrät Ihren Standort nicht. Geben Sie auf der Seite einen Ort ein.</translation>
+    </message>
+    <message>
+        <source>There is no location service. Type a place on its page.</source>
+        <translation>Es gibt keinen Standortdienst. Geben Sie auf der Seite einen Ort ein.</translation>
+    </message>
+    <message>
+        <source>Read from the desktop&apos;s notifications, which show as before.</source>
+        <translation>Aus den Benachrichtigungen gelesen, die wie bisher erscheinen.</translation>
+    </message>
+    <message>
+        <source>Read where Thunderbird, Evolution or a mail folder keeps it.</source>
+        <translation>Gelesen, wo Thunderbird, Evolution oder ein Mailordner sie aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Ready. Drag files to the top of the screen.</source>
+        <translation>Bereit. Ziehen Sie Dateien an den oberen Bildschirmrand.</translation>
+    </message>
+    <message>
+        <source>Ready. They are on the last page of the dashboard.</source>
+        <translation>Bereit. Zu finden auf der letzten Seite der Übersicht.</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutIntent</name>
+    <message>
+        <source>Start Pomodoro</source>
+        <translation>Pomodoro starten</translation>
+    </message>
+    <message>
+        <source>Start a Pomodoro in %1</source>
+        <translation>Starte einen Pomodoro in %1</translation>
+    </message>
+    <message>
+        <source>Start a focus session in %1</source>
+        <translation>Starte eine Konzentrationsphase in %1</translation>
+    </message>
+    <message>
+        <source>Stop Pomodoro</source>
+        <translation>Pomodoro beenden</translation>
+    </message>
+    <message>
+        <source>Stop the Pomodoro in %1</source>
+        <translation>Beende den Pomodoro in %1</translation>
+    </message>
+    <message>
+        <source>End the %1 focus session</source>
+        <translation>Beende die Konzentrationsphase von %1</translation>
+    </message>
+    <message>
+        <source>Skip Pomodoro Phase</source>
+        <translation>Pomodoro-Phase überspringen</translation>
+    </message>
+    <message>
+        <source>Start Countdown Timer</source>
+        <translation>Countdown starten</translation>
+    </message>
+    <message>
+        <source>Start Timer</source>
+        <translation>Timer starten</translation>
+    </message>
+    <message>
+        <source>Start a timer in %1</source>
+        <translation>Starte einen Timer in %1</translation>
+    </message>
+    <message>
+        <source>Start a countdown in %1</source>
+        <translation>Starte einen Countdown in %1</translation>
+    </message>
+    <message>
+        <source>Stop Countdown Timer</source>
+        <translation>Countdown beenden</translation>
+    </message>
+    <message>
+        <source>Stop Timer</source>
+        <translation>Timer beenden</translation>
+    </message>
+    <message>
+        <source>Stop the timer in %1</source>
+        <translation>Beende den Timer in %1</translation>
+    </message>
+    <message>
+        <source>Cancel the %1 timer</source>
+        <translation>Brich den Timer von %1 ab</translation>
+    </message>
+    <message>
+        <source>Toggle Island</source>
+        <translation>Insel umschalten</translation>
+    </message>
+    <message>
+        <source>Toggle the island in %1</source>
+        <translation>Schalte die Insel von %1 um</translation>
+    </message>
+    <message>
+        <source>Show the %1 island</source>
+        <translation>Zeige die Insel von %1</translation>
+    </message>
+    <message>
+        <source>Start a %1-minute countdown</source>
+        <translation>Countdown von %1 Minuten starten</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>Length of the countdown in minutes.</source>
+        <translation>Länge des Countdowns in Minuten.</translation>
+    </message>
+    <message>
+        <source>%1 has no parameter &quot;%2&quot;</source>
+        <translation>%1 hat keinen Parameter „%2“</translation>
+    </message>
+    <message>
+        <source>minutes must be a whole number from %1 to %2</source>
+        <translation>minutes muss eine ganze Zahl von %1 bis %2 sein</translation>
+    </message>
+</context>
+<context>
+    <name>SourcesStep</name>
+    <message>
+        <source>What should it show?</source>
+        <translation>Was soll sie zeigen?</translation>
+    </message>
+    <message>
+        <source>You can change all of this later in the settings.</source>
+        <translation>All dies lässt sich später in den Einstellungen ändern.</translation>
+    </message>
+</context>
+<context>
+    <name>StatusMenu</name>
+    <message>
+        <source>Show Island</source>
+        <translation>Insel zeigen</translation>
+    </message>
+    <message>
+        <source>Refresh Now Playing</source>
+        <translation>Wiedergabe neu abfragen</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Nach Aktualisierungen suchen …</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message>
+        <source>Quit Quillmere</source>
+        <translation>Quillmere beenden</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPage</name>
+    <message>
+        <source>Measuring…</source>
+        <translation>Wird gemessen …</translation>
+    </message>
+</context>
+<context>
+    <name>TimerMessages</name>
+    <message>
+        <source>Focus session complete</source>
+        <translation>Konzentrationsphase beendet</translation>
+    </message>
+    <message>
+        <source>Time for a break! Session %1 done.</source>
+        <translation>Zeit für eine Pause! Phase %1 geschafft.</translation>
+    </message>
+    <message>
+        <source>Break&apos;s over</source>
+        <translation>Die Pause ist vorbei</translation>
+    </message>
+    <message>
+        <source>Ready to focus again?</source>
+        <translation>Bereit für die nächste Phase?</translation>
+    </message>
+    <message>
+        <source>Timer Complete</source>
+        <translation>Timer abgelaufen</translation>
+    </message>
+    <message>
+        <source>Your %1 minute timer has finished.</source>
+        <translation>Ihr Timer über %1 Minuten ist abgelaufen.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerPage</name>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 Minuten</translation>
+    </message>
+    <message>
+        <source>Another length</source>
+        <translation>Andere Dauer</translation>
+    </message>
+    <message>
+        <source>Minutes, 1:30 or 90s</source>
+        <translation>Minuten, 1:30 oder 90s</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>TrayPage</name>
+    <message>
+        <source>Drop to add</source>
+        <translation>Zum Hinzufügen loslassen</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>Dateien hierher ziehen</translation>
+    </message>
+    <message>
+        <source>Dropped files</source>
+        <translation>Abgelegte Dateien</translation>
+    </message>
+    <message>
+        <source>Remove from the tray</source>
+        <translation>Aus der Ablage entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateHUD</name>
+    <message>
+        <source>Quillmere %1 is available</source>
+        <translation>Quillmere %1 ist verfügbar</translation>
+    </message>
+    <message>
+        <source>Press to see what is new</source>
+        <translation>Drücken, um Neues zu sehen</translation>
+    </message>
+    <message>
+        <source>Quillmere is up to date</source>
+        <translation>Quillmere ist aktuell</translation>
+    </message>
+    <message>
+        <source>There is no newer version</source>
+        <translation>Es gibt keine neuere Version</translation>
+    </message>
+    <message>
+        <source>Could not look for updates</source>
+        <translation>Suche nach Aktualisierungen gescheitert</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>This Quillmere has no address to look for updates at.</source>
+        <translation>Dieses Quillmere kennt keine Adresse für Aktualisierungen.</translation>
+    </message>
+    <message>
+        <source>The update information could not be read.</source>
+        <translation>Die Angaben zur Aktualisierung waren nicht lesbar.</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherCondition</name>
+    <message>
+        <source>Clear</source>
+        <translation>Klar</translation>
+    </message>
+    <message>
+        <source>Mostly Clear</source>
+        <translation>Überwiegend klar</translation>
+    </message>
+    <message>
+        <source>Partly Cloudy</source>
+        <translation>Teils bewölkt</translation>
+    </message>
+    <message>
+        <source>Overcast</source>
+        <translation>Bedeckt</translation>
+    </message>
+    <message>
+        <source>Foggy</source>
+        <translation>Nebel</translation>
+    </message>
+    <message>
+        <source>Drizzle</source>
+        <translation>Nieselregen</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>Regen</translation>
+    </message>
+    <message>
+        <source>Heavy Rain</source>
+        <translation>Starker Regen</translation>
+    </message>
+    <message>
+        <source>Freezing Rain</source>
+        <translation>Gefrierender Regen</translation>
+    </message>
+    <message>
+        <source>Snow</source>
+        <translation>Schnee</translation>
+    </message>
+    <message>
+        <source>Heavy Snow</source>
+        <translation>Starker Schneefall</translation>
+    </message>
+    <message>
+        <source>Snow Grains</source>
+        <translation>Schneegriesel</translation>
+    </message>
+    <message>
+        <source>Rain Showers</source>
+        <translation>Regenschauer</translation>
+    </message>
+    <message>
+        <source>Snow Showers</source>
+        <translation>Schneeschauer</translation>
+    </message>
+    <message>
+        <source>Thunderstorm</source>
+        <translation>Gewitter</translation>
+    </message>
+    <message>
+        <source>Thunderstorm with Hail</source>
+        <translation>Gewitter mit Hagel</translation>
+    </message>
+    <message>
+        <source>Cloudy</source>
+        <translation>Bewölkt</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>Heiß</translation>
+    </message>
+    <message>
+        <source>Mostly Cloudy</source>
+        <translation>Überwiegend bewölkt</translation>
+    </message>
+    <message>
+        <source>Breezy</source>
+        <translation>Leichter Wind</translation>
+    </message>
+    <message>
+        <source>Windy</source>
+        <translation>Windig</translation>
+    </message>
+    <message>
+        <source>Blowing Dust</source>
+        <translation>Staubverwehungen</translation>
+    </message>
+    <message>
+        <source>Haze</source>
+        <translation>Dunst</translation>
+    </message>
+    <message>
+        <source>Smoky</source>
+        <translation>Rauch</translation>
+    </message>
+    <message>
+        <source>Freezing Drizzle</source>
+        <translation>Gefrierender Niesel</translation>
+    </message>
+    <message>
+        <source>Sleet</source>
+        <translation>Schneeregen</translation>
+    </message>
+    <message>
+        <source>Hail</source>
+        <translation>Hagel</translation>
+    </message>
+    <message>
+        <source>Wintry Mix</source>
+        <translation>Schnee und Regen</translation>
+    </message>
+    <message>
+        <source>Flurries</source>
+        <translation>Schneegestöber</translation>
+    </message>
+    <message>
+        <source>Sun Flurries</source>
+        <translation>Sonne und Schnee</translation>
+    </message>
+    <message>
+        <source>Blizzard</source>
+        <translation>Schneesturm</translation>
+    </message>
+    <message>
+        <source>Blowing Snow</source>
+        <translation>Schneeverwehungen</translation>
+    </message>
+    <message>
+        <source>Frigid</source>
+        <translation>Eisig</translation>
+    </message>
+    <message>
+        <source>Sun Showers</source>
+        <translation>Sonne und Schauer</translation>
+    </message>
+    <message>
+        <source>Thunderstorms</source>
+        <translation>Gewitter</translation>
+    </message>
+    <message>
+        <source>Isolated Thunderstorms</source>
+        <translation>Einzelne Gewitter</translation>
+    </message>
+    <message>
+        <source>Scattered Thunderstorms</source>
+        <translation>Vereinzelte Gewitter</translation>
+    </message>
+    <message>
+        <source>Strong Storms</source>
+        <translation>Schwere Gewitter</translation>
+    </message>
+    <message>
+        <source>Tropical Storm</source>
+        <translation>Tropensturm</translation>
+    </message>
+    <message>
+        <source>Hurricane</source>
+        <translation>Hurrikan</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherHUD</name>
+    <message>
+        <source>%1, %2 to %3</source>
+        <comment>place, today&apos;s lowest and highest temperature</comment>
+        <translation>%1, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>temperature and condition</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherPage</name>
+    <message>
+        <source>Choose a place</source>
+        <translation>Ort wählen</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherPanel</name>
+    <message>
+        <source>Choose a place</source>
+        <translation>Ort wählen</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Welcome to Quillmere</source>
+        <translation>Willkommen bei Quillmere</translation>
+    </message>
+    <message>
+        <source>A small black island at the top of your screen. It grows for a moment when something happens, and stays out of the way when nothing does.</source>
+        <translation>Eine kleine schwarze Insel am oberen Bildschirmrand. Sie wächst für einen Augenblick, wenn etwas geschieht, und stört nicht, wenn nichts geschieht.</translation>
+    </message>
+    <message>
+        <source>Press it to open the dashboard: what plays, the weather, the load, files.</source>
+        <translation>Ein Druck darauf öffnet die Übersicht: Wiedergabe, Wetter, Auslastung, Dateien.</translation>
+    </message>
+    <message>
+        <source>Scroll over it to change the volume.</source>
+        <translation>Scrollen darüber ändert die Lautstärke.</translation>
+    </message>
+    <message>
+        <source>It is quit, opened and set up from the icon in the status bar.</source>
+        <translation>Das Symbol in der Statusleiste zeigt sie, richtet sie ein und beendet sie.</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::AssistantModel</name>
+    <message>
+        <source>Idle</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Working...</source>
+        <translation>Arbeitet …</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Wartet</translation>
+    </message>
+    <message>
+        <source>Compacting</source>
+        <translation>Fasst zusammen</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>jetzt</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>vor %1 Min.</translation>
+    </message>
+    <message>
+        <source>Claude Code</source>
+        <translation>Claude Code</translation>
+    </message>
+    <message>
+        <source>Claude Code: %1, %2</source>
+        <translation>Claude Code: %1, %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::DashboardModel</name>
+    <message>
+        <source>Overview</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Wetter</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>File tray</source>
+        <translation>Dateiablage</translation>
+    </message>
+    <message>
+        <source>Timers</source>
+        <translation>Timer</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>dddd, d MMMM</source>
+        <extracomment>A date without a year, as QLocale writes it: Saturday, 21 November</extracomment>
+        <translation>dddd, d. MMMM</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::HUDManager</name>
+    <message>
+        <source>Low Battery</source>
+        <translation>Akku fast leer</translation>
+    </message>
+    <message>
+        <source>%1% remaining</source>
+        <translation>Noch %1 %</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::IslandModel</name>
+    <message>
+        <source>Island</source>
+        <translation>Insel</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::SetupSource</name>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Now playing</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Headphones</source>
+        <translation>Kopfhörer</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>Akku</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Wetter</translation>
+    </message>
+    <message>
+        <source>Slack and Discord</source>
+        <translation>Slack und Discord</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>File tray</source>
+        <translation>Dateiablage</translation>
+    </message>
+    <message>
+        <source>Timers</source>
+        <translation>Timer</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::SystemModel</name>
+    <message>
+        <source>%1 of %2 GB</source>
+        <translation>%1 von %2 GB</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>Prozessor</translation>
+    </message>
+    <message>
+        <source>1 core</source>
+        <translation>1 Kern</translation>
+    </message>
+    <message>
+        <source>%1 cores</source>
+        <translation>%1 Kerne</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Datenträger</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::TimerModel</name>
+    <message>
+        <source>Focus</source>
+        <translation>Fokus</translation>
+    </message>
+    <message>
+        <source>Countdown</source>
+        <translation>Countdown</translation>
+    </message>
+    <message>
+        <source>Stopwatch</source>
+        <translation>Stoppuhr</translation>
+    </message>
+    <message>
+        <source>Short Break</source>
+        <translation>Kurze Pause</translation>
+    </message>
+    <message>
+        <source>Long Break</source>
+        <translation>Lange Pause</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::WeatherModel</name>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 mph</source>
+        <translation>%1 mph</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>%1 mi</source>
+        <translation>%1 mi</translation>
+    </message>
+    <message>
+        <source>feels like %1</source>
+        <translation>gefühlt %1</translation>
+    </message>
+    <message>
+        <source>H %1</source>
+        <extracomment>Today&apos;s highest and lowest temperature, in as few letters as can be</extracomment>
+        <translation>H %1</translation>
+    </message>
+    <message>
+        <source>L %1</source>
+        <translation>T %1</translation>
+    </message>
+    <message>
+        <source>Humidity</source>
+        <translation>Feuchte</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Wind</source>
+        <translation>Wind</translation>
+    </message>
+    <message>
+        <source>Visibility</source>
+        <translation>Sicht</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>%1, just now</source>
+        <comment>who the weather comes from, and when it came</comment>
+        <translation>%1, gerade eben</translation>
+    </message>
+    <message>
+        <source>%1, %2 min ago</source>
+        <translation>%1, vor %2 Min.</translation>
+    </message>
+    <message>
+        <source>%1, %2 h ago</source>
+        <translation>%1, vor %2 Std.</translation>
+    </message>
+    <message>
+        <source>Nobody has allowed Quillmere yet to know where this machine is.</source>
+        <translation>Noch hat niemand Quillmere erlaubt, den Standort dieses Rechners zu erfahren.</translation>
+    </message>
+    <message>
+        <source>This machine cannot tell where it is: it has no location service.</source>
+        <translation>Dieser Rechner kann nicht sagen, wo er ist: Er hat keinen Standortdienst.</translation>
+    </message>
+    <message>
+        <source>Quillmere is not allowed to know where this machine is.</source>
+        <translation>Quillmere darf den Standort dieses Rechners nicht erfahren.</translation>
+    </message>
+    <message>
+        <source>No weather has come yet. It is asked for again every 15 minutes.</source>
+        <translation>Noch ist kein Wetter da. Alle 15 Minuten wird wieder gefragt.</translation>
+    </message>
+    <message>
+        <source>The search for places did not work: %1</source>
+        <translation>Die Ortssuche ist gescheitert: %1</translation>
+    </message>
+    <message>
+        <source>No place of that name</source>
+        <translation>Kein Ort dieses Namens</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::WeatherService</name>
+    <message>
+        <source>Current Location</source>
+        <translation>Aktueller Standort</translation>
+    </message>
+</context>
+</TS>

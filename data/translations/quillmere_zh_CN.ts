@@ -1,0 +1,1295 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>ActivityCard</name>
+    <message>
+        <source>Previous activity</source>
+        <translation>上一条活动</translation>
+    </message>
+    <message>
+        <source>Next activity</source>
+        <translation>下一条活动</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>忽略</translation>
+    </message>
+</context>
+<context>
+    <name>AssistantCard</name>
+    <message>
+        <source>“%1”</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>Show recent activities</source>
+        <translation>显示最近的活动</translation>
+    </message>
+</context>
+<context>
+    <name>AssistantTool</name>
+    <message>
+        <source>Editing file</source>
+        <translation>编辑文件</translation>
+    </message>
+    <message>
+        <source>Writing file</source>
+        <translation>写入文件</translation>
+    </message>
+    <message>
+        <source>Reading file</source>
+        <translation>读取文件</translation>
+    </message>
+    <message>
+        <source>Running command</source>
+        <translation>运行命令</translation>
+    </message>
+    <message>
+        <source>Searching files</source>
+        <translation>搜索文件</translation>
+    </message>
+    <message>
+        <source>Searching code</source>
+        <translation>搜索代码</translation>
+    </message>
+    <message>
+        <source>Running sub-agent</source>
+        <translation>运行子代理</translation>
+    </message>
+    <message>
+        <source>Fetching web page</source>
+        <translation>获取网页</translation>
+    </message>
+    <message>
+        <source>Searching web</source>
+        <translation>搜索网络</translation>
+    </message>
+    <message>
+        <source>Updating tasks</source>
+        <translation>更新任务</translation>
+    </message>
+</context>
+<context>
+    <name>ClockPanel</name>
+    <message>
+        <source>Choose where sound plays</source>
+        <translation>选择声音输出位置</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceHUD</name>
+    <message>
+        <source>Connected</source>
+        <translation>已连接</translation>
+    </message>
+</context>
+<context>
+    <name>EmailMonitor</name>
+    <message>
+        <source>This is a test email notification</source>
+        <translation>这是一封测试邮件</translation>
+    </message>
+    <message>
+        <source>Testing email HUD display</source>
+        <translation>测试邮件提示的显示</translation>
+    </message>
+    <message>
+        <source>Test notification sent!</source>
+        <translation>测试通知已发送！</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>File Added</source>
+        <translation>已添加文件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 和另外 %n 个</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FinishStep</name>
+    <message>
+        <source>Ready</source>
+        <translation>准备就绪</translation>
+    </message>
+    <message>
+        <source>Change the volume and look at the top of the screen.</source>
+        <translation>调节一下音量，看看屏幕顶端。</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>登录时启动</translation>
+    </message>
+    <message>
+        <source>The island is there whenever you are.</source>
+        <translation>只要您在，小岛就在。</translation>
+    </message>
+    <message>
+        <source>The settings show this again whenever you like.</source>
+        <translation>您可以随时在设置中再次打开本窗口。</translation>
+    </message>
+</context>
+<context>
+    <name>HUD</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>A percentage, such as &quot;46%&quot;</extracomment>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>%1 %2 percent</source>
+        <translation>%1 百分之 %2</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Volume muted</source>
+        <translation>已静音</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>静音</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>最低</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1，%2</translation>
+    </message>
+</context>
+<context>
+    <name>MainPage</name>
+    <message>
+        <source>Nothing is playing</source>
+        <translation>没有正在播放的内容</translation>
+    </message>
+</context>
+<context>
+    <name>Media</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>Playing: %1</source>
+        <translation>正在播放：%1</translation>
+    </message>
+    <message>
+        <source>Paused: %1</source>
+        <translation>已暂停：%1</translation>
+    </message>
+    <message>
+        <source>Favorite</source>
+        <translation>收藏</translation>
+    </message>
+    <message>
+        <source>Shuffle</source>
+        <translation>随机播放</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>重复播放</translation>
+    </message>
+    <message>
+        <source>Copy title and artist</source>
+        <translation>复制曲名和艺人</translation>
+    </message>
+</context>
+<context>
+    <name>MediaPanel</name>
+    <message>
+        <source>Show where it plays</source>
+        <translation>显示播放来源</translation>
+    </message>
+    <message>
+        <source>Previous track</source>
+        <translation>上一首</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Next track</source>
+        <translation>下一首</translation>
+    </message>
+    <message>
+        <source>Sound plays on %1; choose another output</source>
+        <translation>声音从 %1 输出；选择其他输出</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHUD</name>
+    <message>
+        <source>%1 · %2</source>
+        <comment>where or who, and what</comment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>New email</source>
+        <translation>新邮件</translation>
+    </message>
+</context>
+<context>
+    <name>NeedsStep</name>
+    <message>
+        <source>On this machine</source>
+        <translation>在这台电脑上</translation>
+    </message>
+    <message>
+        <source>What you switched on, and what it needs here.</source>
+        <translation>您打开的来源，以及它们在这里需要什么。</translation>
+    </message>
+</context>
+<context>
+    <name>Notification</name>
+    <message>
+        <source>New message</source>
+        <translation>新消息</translation>
+    </message>
+</context>
+<context>
+    <name>NotificationCenterMonitor</name>
+    <message>
+        <source>No %1 notifications in database. Send yourself a DM or have someone message you, then try again. If you see &quot;Access denied&quot;, grant Full Disk Access: System Settings → Privacy &amp; Security → Full Disk Access → Quillmere.</source>
+        <translation>数据库中没有 %1 的通知。请给自己发一条私信，或让别人给您发消息，然后重试。如果看到“Access denied”，请授予完全磁盘访问权限：系统设置 → 隐私与安全性 → 完全磁盘访问权限 → Quillmere。</translation>
+    </message>
+    <message>
+        <source>Found %1 notification. Showing in island.</source>
+        <translation>找到 %1 的通知，正在小岛中显示。</translation>
+    </message>
+</context>
+<context>
+    <name>OutputPicker</name>
+    <message>
+        <source>Sound output</source>
+        <translation>声音输出</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>No output device</source>
+        <translation>没有输出设备</translation>
+    </message>
+</context>
+<context>
+    <name>PageDots</name>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceSearchPanel</name>
+    <message>
+        <source>City or place</source>
+        <translation>城市或地点</translation>
+    </message>
+    <message>
+        <source>Use my location</source>
+        <translation>使用我的位置</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <translation>找到的地点</translation>
+    </message>
+</context>
+<context>
+    <name>PowerAlerts</name>
+    <message>
+        <source>%1% remaining</source>
+        <extracomment>What is left in a battery, such as &quot;20% remaining&quot;</extracomment>
+        <translation>剩余 %1%</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>正在充电</translation>
+    </message>
+    <message>
+        <source>Plugged In</source>
+        <translation>已接通电源</translation>
+    </message>
+    <message>
+        <source>On Battery</source>
+        <translation>使用电池</translation>
+    </message>
+    <message>
+        <source>Low Battery</source>
+        <translation>电量不足</translation>
+    </message>
+    <message>
+        <source>Bluetooth device</source>
+        <translation>蓝牙设备</translation>
+    </message>
+    <message>
+        <source>The machine saves power and may be slower.</source>
+        <translation>电脑正在省电，速度可能变慢。</translation>
+    </message>
+    <message>
+        <source>The machine runs at its usual speed again.</source>
+        <translation>电脑已恢复正常速度。</translation>
+    </message>
+    <message>
+        <source>Low Power Mode On</source>
+        <translation>低电量模式已打开</translation>
+    </message>
+    <message>
+        <source>Low Power Mode Off</source>
+        <translation>低电量模式已关闭</translation>
+    </message>
+</context>
+<context>
+    <name>QuillmereShortcuts</name>
+    <message>
+        <source>minute</source>
+        <translation>分钟</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>分钟</translation>
+    </message>
+    <message>
+        <source>there is no intent &quot;%1&quot;</source>
+        <translation>没有名为“%1”的快捷指令</translation>
+    </message>
+    <message>
+        <source>there is no action &quot;%1&quot;</source>
+        <translation>没有名为“%1”的操作</translation>
+    </message>
+    <message>
+        <source>Pomodoro started — %1 %2 of focus.</source>
+        <translation>番茄钟已开始，专注 %1 %2。</translation>
+    </message>
+    <message>
+        <source>No Pomodoro session is running.</source>
+        <translation>没有正在进行的番茄钟。</translation>
+    </message>
+    <message>
+        <source>Pomodoro stopped.</source>
+        <translation>番茄钟已停止。</translation>
+    </message>
+    <message>
+        <source>Break skipped.</source>
+        <translation>已跳过休息。</translation>
+    </message>
+    <message>
+        <source>Focus session skipped.</source>
+        <translation>已跳过专注时段。</translation>
+    </message>
+    <message>
+        <source>Countdown started — %1 %2 to go.</source>
+        <translation>倒计时已开始，还有 %1 %2。</translation>
+    </message>
+    <message>
+        <source>No timer was running.</source>
+        <translation>没有正在运行的计时器。</translation>
+    </message>
+    <message>
+        <source>Timer cancelled.</source>
+        <translation>计时器已取消。</translation>
+    </message>
+    <message>
+        <source>Toggled the island.</source>
+        <translation>已切换小岛。</translation>
+    </message>
+</context>
+<context>
+    <name>Scrubber</name>
+    <message>
+        <source>Position</source>
+        <translation>播放位置</translation>
+    </message>
+</context>
+<context>
+    <name>Setup</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>第 %1 步，共 %2 步</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>跳过</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>上一步</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+</context>
+<context>
+    <name>SetupNeeds</name>
+    <message>
+        <source>No sound server answers. Install PipeWire or PulseAudio.</source>
+        <translation>没有声音服务器响应。请安装 PipeWire 或 PulseAudio。</translation>
+    </message>
+    <message>
+        <source>Ready.</source>
+        <translation>就绪。</translation>
+    </message>
+    <message>
+        <source>Ready. Sound goes to %1.</source>
+        <translation>就绪。声音从 %1 输出。</translation>
+    </message>
+    <message>
+        <source>Ready. The sound server tells when they connect.</source>
+        <translation>就绪。连接时声音服务器会告知。</translation>
+    </message>
+    <message>
+        <source>Ready. The display tells its brightness.</source>
+        <translation>就绪。显示器会告知亮度。</translation>
+    </message>
+    <message>
+        <source>No display here tells its brightness yet.</source>
+        <translation>目前没有显示器告知亮度。</translation>
+    </message>
+    <message>
+        <source>Ready. Players and browsers are found by themselves.</source>
+        <translation>就绪。播放器和浏览器会被自动找到。</translation>
+    </message>
+    <message>
+        <source>There is no session bus to hear players on.</source>
+        <translation>没有会话总线，无法得知播放器的状态。</translation>
+    </message>
+    <message>
+        <source>No power service answers. Install UPower.</source>
+        <translation>没有电源服务响应。请安装 UPower。</translation>
+    </message>
+    <message>
+        <source>Ready. The battery is at %1 %.</source>
+        <translation>就绪。电池电量 %1%。</translation>
+    </message>
+    <message>
+        <source>This machine has no battery.</source>
+        <translation>这台电脑没有电池。</translation>
+    </message>
+    <message>
+        <source>Ready, for the place you typed.</source>
+        <translation>就绪，使用您输入的地点。</translation>
+    </message>
+    <message>
+        <source>Ready. The desktop tells where you are.</source>
+        <translation>就绪。桌面会告知您的位置。</translation>
+    </message>
+    <message>
+        <source>Asks the desktop where you are, or type a place on its page.</source>
+        <translation>会向桌面询问您的位置，也可以在天气页输入地点。</translation>
+    </message>
+    <message>
+        <source>The desktop keeps your location private. Type a place on its page.</source>
+        <translation>桌面未公开您的位置。请在天气页输入地点。</translation>
+    </message>
+    <message>
+        <source>There is no location service. Type a place on its page.</source>
+        <translation>没有定位服务。请在天气页输入地点。</translation>
+    </message>
+    <message>
+        <source>Read from the desktop&apos;s notifications, which show as before.</source>
+        <translation>从桌面通知中读取，通知照常显示。</translation>
+    </message>
+    <message>
+        <source>Read where Thunderbird, Evolution or a mail folder keeps it.</source>
+        <translation>从 Thunderbird、Evolution 或邮件文件夹中读取。</translation>
+    </message>
+    <message>
+        <source>Ready. Drag files to the top of the screen.</source>
+        <translation>就绪。把文件拖到屏幕顶端即可。</translation>
+    </message>
+    <message>
+        <source>Ready. They are on the last page of the dashboard.</source>
+        <translation>就绪。它们在面板的最后一页。</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutIntent</name>
+    <message>
+        <source>Start Pomodoro</source>
+        <translation>开始番茄钟</translation>
+    </message>
+    <message>
+        <source>Start a Pomodoro in %1</source>
+        <translation>在 %1 中开始番茄钟</translation>
+    </message>
+    <message>
+        <source>Start a focus session in %1</source>
+        <translation>在 %1 中开始专注</translation>
+    </message>
+    <message>
+        <source>Stop Pomodoro</source>
+        <translation>停止番茄钟</translation>
+    </message>
+    <message>
+        <source>Stop the Pomodoro in %1</source>
+        <translation>在 %1 中停止番茄钟</translation>
+    </message>
+    <message>
+        <source>End the %1 focus session</source>
+        <translation>结束 %1 的专注</translation>
+    </message>
+    <message>
+        <source>Skip Pomodoro Phase</source>
+        <translation>跳过番茄钟阶段</translation>
+    </message>
+    <message>
+        <source>Start Countdown Timer</source>
+        <translation>开始倒计时</translation>
+    </message>
+    <message>
+        <source>Start Timer</source>
+        <translation>开始计时</translation>
+    </message>
+    <message>
+        <source>Start a timer in %1</source>
+        <translation>在 %1 中开始计时</translation>
+    </message>
+    <message>
+        <source>Start a countdown in %1</source>
+        <translation>在 %1 中开始倒计时</translation>
+    </message>
+    <message>
+        <source>Stop Countdown Timer</source>
+        <translation>停止倒计时</translation>
+    </message>
+    <message>
+        <source>Stop Timer</source>
+        <translation>停止计时</translation>
+    </message>
+    <message>
+        <source>Stop the timer in %1</source>
+        <translation>在 %1 中停止计时</translation>
+    </message>
+    <message>
+        <source>Cancel the %1 timer</source>
+        <translation>取消 %1 的计时</translation>
+    </message>
+    <message>
+        <source>Toggle Island</source>
+        <translation>切换小岛</translation>
+    </message>
+    <message>
+        <source>Toggle the island in %1</source>
+        <translation>切换 %1 的小岛</translation>
+    </message>
+    <message>
+        <source>Show the %1 island</source>
+        <translation>显示 %1 的小岛</translation>
+    </message>
+    <message>
+        <source>Start a %1-minute countdown</source>
+        <translation>开始 %1 分钟倒计时</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>分钟</translation>
+    </message>
+    <message>
+        <source>Length of the countdown in minutes.</source>
+        <translation>倒计时的分钟数。</translation>
+    </message>
+    <message>
+        <source>%1 has no parameter &quot;%2&quot;</source>
+        <translation>%1 没有参数“%2”</translation>
+    </message>
+    <message>
+        <source>minutes must be a whole number from %1 to %2</source>
+        <translation>minutes 必须是 %1 到 %2 之间的整数</translation>
+    </message>
+</context>
+<context>
+    <name>SourcesStep</name>
+    <message>
+        <source>What should it show?</source>
+        <translation>要显示哪些内容？</translation>
+    </message>
+    <message>
+        <source>You can change all of this later in the settings.</source>
+        <translation>以后都可以在设置中更改。</translation>
+    </message>
+</context>
+<context>
+    <name>StatusMenu</name>
+    <message>
+        <source>Show Island</source>
+        <translation>显示小岛</translation>
+    </message>
+    <message>
+        <source>Refresh Now Playing</source>
+        <translation>刷新正在播放</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>检查更新…</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>设置…</translation>
+    </message>
+    <message>
+        <source>Quit Quillmere</source>
+        <translation>退出 Quillmere</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPage</name>
+    <message>
+        <source>Measuring…</source>
+        <translation>正在测量…</translation>
+    </message>
+</context>
+<context>
+    <name>TimerMessages</name>
+    <message>
+        <source>Focus session complete</source>
+        <translation>专注时段完成</translation>
+    </message>
+    <message>
+        <source>Time for a break! Session %1 done.</source>
+        <translation>该休息了！第 %1 个专注时段已完成。</translation>
+    </message>
+    <message>
+        <source>Break&apos;s over</source>
+        <translation>休息结束</translation>
+    </message>
+    <message>
+        <source>Ready to focus again?</source>
+        <translation>准备好继续专注了吗？</translation>
+    </message>
+    <message>
+        <source>Timer Complete</source>
+        <translation>计时结束</translation>
+    </message>
+    <message>
+        <source>Your %1 minute timer has finished.</source>
+        <translation>您的 %1 分钟计时已结束。</translation>
+    </message>
+</context>
+<context>
+    <name>TimerPage</name>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message>
+        <source>Another length</source>
+        <translation>其他时长</translation>
+    </message>
+    <message>
+        <source>Minutes, 1:30 or 90s</source>
+        <translation>分钟数、1:30 或 90s</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>跳过</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+</context>
+<context>
+    <name>TrayPage</name>
+    <message>
+        <source>Drop to add</source>
+        <translation>松开以添加</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>将文件拖到这里</translation>
+    </message>
+    <message>
+        <source>Dropped files</source>
+        <translation>已放入的文件</translation>
+    </message>
+    <message>
+        <source>Remove from the tray</source>
+        <translation>从托盘中移除</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateHUD</name>
+    <message>
+        <source>Quillmere %1 is available</source>
+        <translation>Quillmere %1 可用</translation>
+    </message>
+    <message>
+        <source>Press to see what is new</source>
+        <translation>点按查看新功能</translation>
+    </message>
+    <message>
+        <source>Quillmere is up to date</source>
+        <translation>Quillmere 已是最新版本</translation>
+    </message>
+    <message>
+        <source>There is no newer version</source>
+        <translation>没有更新的版本</translation>
+    </message>
+    <message>
+        <source>Could not look for updates</source>
+        <translation>无法检查更新</translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <source>This Quillmere has no address to look for updates at.</source>
+        <translation>此 Quillmere 没有用于检查更新的地址。</translation>
+    </message>
+    <message>
+        <source>The update information could not be read.</source>
+        <translation>无法读取更新信息。</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherCondition</name>
+    <message>
+        <source>Clear</source>
+        <translation>晴</translation>
+    </message>
+    <message>
+        <source>Mostly Clear</source>
+        <translation>大部晴朗</translation>
+    </message>
+    <message>
+        <source>Partly Cloudy</source>
+        <translation>局部多云</translation>
+    </message>
+    <message>
+        <source>Overcast</source>
+        <translation>阴</translation>
+    </message>
+    <message>
+        <source>Foggy</source>
+        <translation>有雾</translation>
+    </message>
+    <message>
+        <source>Drizzle</source>
+        <translation>毛毛雨</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>雨</translation>
+    </message>
+    <message>
+        <source>Heavy Rain</source>
+        <translation>大雨</translation>
+    </message>
+    <message>
+        <source>Freezing Rain</source>
+        <translation>冻雨</translation>
+    </message>
+    <message>
+        <source>Snow</source>
+        <translation>雪</translation>
+    </message>
+    <message>
+        <source>Heavy Snow</source>
+        <translation>大雪</translation>
+    </message>
+    <message>
+        <source>Snow Grains</source>
+        <translation>米雪</translation>
+    </message>
+    <message>
+        <source>Rain Showers</source>
+        <translation>阵雨</translation>
+    </message>
+    <message>
+        <source>Snow Showers</source>
+        <translation>阵雪</translation>
+    </message>
+    <message>
+        <source>Thunderstorm</source>
+        <translation>雷暴</translation>
+    </message>
+    <message>
+        <source>Thunderstorm with Hail</source>
+        <translation>雷暴伴冰雹</translation>
+    </message>
+    <message>
+        <source>Cloudy</source>
+        <translation>多云</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>炎热</translation>
+    </message>
+    <message>
+        <source>Mostly Cloudy</source>
+        <translation>大部多云</translation>
+    </message>
+    <message>
+        <source>Breezy</source>
+        <translation>微风</translation>
+    </message>
+    <message>
+        <source>Windy</source>
+        <translation>大风</translation>
+    </message>
+    <message>
+        <source>Blowing Dust</source>
+        <translation>扬尘</translation>
+    </message>
+    <message>
+        <source>Haze</source>
+        <translation>霾</translation>
+    </message>
+    <message>
+        <source>Smoky</source>
+        <translation>烟雾</translation>
+    </message>
+    <message>
+        <source>Freezing Drizzle</source>
+        <translation>冻毛毛雨</translation>
+    </message>
+    <message>
+        <source>Sleet</source>
+        <translation>雨夹雪</translation>
+    </message>
+    <message>
+        <source>Hail</source>
+        <translation>冰雹</translation>
+    </message>
+    <message>
+        <source>Wintry Mix</source>
+        <translation>雨雪混合</translation>
+    </message>
+    <message>
+        <source>Flurries</source>
+        <translation>小阵雪</translation>
+    </message>
+    <message>
+        <source>Sun Flurries</source>
+        <translation>太阳雪</translation>
+    </message>
+    <message>
+        <source>Blizzard</source>
+        <translation>暴风雪</translation>
+    </message>
+    <message>
+        <source>Blowing Snow</source>
+        <translation>吹雪</translation>
+    </message>
+    <message>
+        <source>Frigid</source>
+        <translation>严寒</translation>
+    </message>
+    <message>
+        <source>Sun Showers</source>
+        <translation>太阳雨</translation>
+    </message>
+    <message>
+        <source>Thunderstorms</source>
+        <translation>雷暴</translation>
+    </message>
+    <message>
+        <source>Isolated Thunderstorms</source>
+        <translation>局部雷暴</translation>
+    </message>
+    <message>
+        <source>Scattered Thunderstorms</source>
+        <translation>零星雷暴</translation>
+    </message>
+    <message>
+        <source>Strong Storms</source>
+        <translation>强雷暴</translation>
+    </message>
+    <message>
+        <source>Tropical Storm</source>
+        <translation>热带风暴</translation>
+    </message>
+    <message>
+        <source>Hurricane</source>
+        <translation>飓风</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherHUD</name>
+    <message>
+        <source>%1, %2 to %3</source>
+        <comment>place, today&apos;s lowest and highest temperature</comment>
+        <translation>%1，%2 至 %3</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>temperature and condition</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherPage</name>
+    <message>
+        <source>Choose a place</source>
+        <translation>选择地点</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherPanel</name>
+    <message>
+        <source>Choose a place</source>
+        <translation>选择地点</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Welcome to Quillmere</source>
+        <translation>欢迎使用 Quillmere</translation>
+    </message>
+    <message>
+        <source>A small black island at the top of your screen. It grows for a moment when something happens, and stays out of the way when nothing does.</source>
+        <translation>屏幕顶端的一个黑色小岛。有事发生时它会展开片刻，平时不会打扰您。</translation>
+    </message>
+    <message>
+        <source>Press it to open the dashboard: what plays, the weather, the load, files.</source>
+        <translation>点按即可打开面板：正在播放、天气、负载、文件。</translation>
+    </message>
+    <message>
+        <source>Scroll over it to change the volume.</source>
+        <translation>在上面滚动可调节音量。</translation>
+    </message>
+    <message>
+        <source>It is quit, opened and set up from the icon in the status bar.</source>
+        <translation>通过状态栏中的图标可以显示、设置和退出。</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::AssistantModel</name>
+    <message>
+        <source>Idle</source>
+        <translation>空闲</translation>
+    </message>
+    <message>
+        <source>Working...</source>
+        <translation>工作中…</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>Compacting</source>
+        <translation>压缩中</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>刚刚</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>%1 分钟前</translation>
+    </message>
+    <message>
+        <source>Claude Code</source>
+        <translation>Claude Code</translation>
+    </message>
+    <message>
+        <source>Claude Code: %1, %2</source>
+        <translation>Claude Code：%1，%2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>，</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::DashboardModel</name>
+    <message>
+        <source>Overview</source>
+        <translation>概览</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>日历</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>天气</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>系统</translation>
+    </message>
+    <message>
+        <source>File tray</source>
+        <translation>文件托盘</translation>
+    </message>
+    <message>
+        <source>Timers</source>
+        <translation>计时器</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>dddd, d MMMM</source>
+        <extracomment>A date without a year, as QLocale writes it: Saturday, 21 November</extracomment>
+        <translation>M月d日 dddd</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::HUDManager</name>
+    <message>
+        <source>Low Battery</source>
+        <translation>电量不足</translation>
+    </message>
+    <message>
+        <source>%1% remaining</source>
+        <translation>剩余 %1%</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::IslandModel</name>
+    <message>
+        <source>Island</source>
+        <translation>小岛</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::SetupSource</name>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Now playing</source>
+        <translation>正在播放</translation>
+    </message>
+    <message>
+        <source>Headphones</source>
+        <translation>耳机</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>电池</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>天气</translation>
+    </message>
+    <message>
+        <source>Slack and Discord</source>
+        <translation>Slack 和 Discord</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>邮件</translation>
+    </message>
+    <message>
+        <source>File tray</source>
+        <translation>文件托盘</translation>
+    </message>
+    <message>
+        <source>Timers</source>
+        <translation>计时器</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::SystemModel</name>
+    <message>
+        <source>%1 of %2 GB</source>
+        <translation>%1 / %2 GB</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>处理器</translation>
+    </message>
+    <message>
+        <source>1 core</source>
+        <translation>1 个核心</translation>
+    </message>
+    <message>
+        <source>%1 cores</source>
+        <translation>%1 个核心</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>内存</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>磁盘</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::TimerModel</name>
+    <message>
+        <source>Focus</source>
+        <translation>专注</translation>
+    </message>
+    <message>
+        <source>Countdown</source>
+        <translation>倒计时</translation>
+    </message>
+    <message>
+        <source>Stopwatch</source>
+        <translation>秒表</translation>
+    </message>
+    <message>
+        <source>Short Break</source>
+        <translation>短休息</translation>
+    </message>
+    <message>
+        <source>Long Break</source>
+        <translation>长休息</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>继续</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::WeatherModel</name>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 公里/时</translation>
+    </message>
+    <message>
+        <source>%1 mph</source>
+        <translation>%1 英里/时</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 公里</translation>
+    </message>
+    <message>
+        <source>%1 mi</source>
+        <translation>%1 英里</translation>
+    </message>
+    <message>
+        <source>feels like %1</source>
+        <translation>体感 %1</translation>
+    </message>
+    <message>
+        <source>H %1</source>
+        <extracomment>Today&apos;s highest and lowest temperature, in as few letters as can be</extracomment>
+        <translation>高 %1</translation>
+    </message>
+    <message>
+        <source>L %1</source>
+        <translation>低 %1</translation>
+    </message>
+    <message>
+        <source>Humidity</source>
+        <translation>湿度</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Wind</source>
+        <translation>风速</translation>
+    </message>
+    <message>
+        <source>Visibility</source>
+        <translation>能见度</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>现在</translation>
+    </message>
+    <message>
+        <source>%1, just now</source>
+        <comment>who the weather comes from, and when it came</comment>
+        <translation>%1，刚刚</translation>
+    </message>
+    <message>
+        <source>%1, %2 min ago</source>
+        <translation>%1，%2 分钟前</translation>
+    </message>
+    <message>
+        <source>%1, %2 h ago</source>
+        <translation>%1，%2 小时前</translation>
+    </message>
+    <message>
+        <source>Nobody has allowed Quillmere yet to know where this machine is.</source>
+        <translation>尚未允许 Quillmere 获知这台电脑的位置。</translation>
+    </message>
+    <message>
+        <source>This machine cannot tell where it is: it has no location service.</source>
+        <translation>这台电脑没有定位服务，无法得知位置。</translation>
+    </message>
+    <message>
+        <source>Quillmere is not allowed to know where this machine is.</source>
+        <translation>不允许 Quillmere 获知这台电脑的位置。</translation>
+    </message>
+    <message>
+        <source>No weather has come yet. It is asked for again every 15 minutes.</source>
+        <translation>尚未收到天气，每 15 分钟会再次查询。</translation>
+    </message>
+    <message>
+        <source>The search for places did not work: %1</source>
+        <translation>搜索地点失败：%1</translation>
+    </message>
+    <message>
+        <source>No place of that name</source>
+        <translation>没有这个地点</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::WeatherService</name>
+    <message>
+        <source>Current Location</source>
+        <translation>当前位置</translation>
+    </message>
+</context>
+</TS>
