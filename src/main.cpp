@@ -51,7 +51,11 @@ public:
     {
         app_.appDelegate().onShowOnboarding = [this] { onboardingController_.show(); };
         app_.appDelegate().onIslandCreated = [this](Island island) { show(island); };
-        app_.launch([this] { bus_.stop([] { QCoreApplication::quit(); }); });
+        app_.launch([this] {
+            onboardingController_
+                .putAway(); // a window that is closed by quitting was not left by its user
+            bus_.stop([] { QCoreApplication::quit(); });
+        });
     }
 
     ~Program()

@@ -116,10 +116,6 @@
 <context>
     <name>FinishStep</name>
     <message>
-        <source>Ready</source>
-        <translation>Fertig</translation>
-    </message>
-    <message>
         <source>Change the volume and look at the top of the screen.</source>
         <translation>Ändern Sie die Lautstärke und schauen Sie an den oberen Bildschirmrand.</translation>
     </message>
@@ -132,8 +128,20 @@
         <translation>Die Insel ist da, wenn Sie da sind.</translation>
     </message>
     <message>
-        <source>The settings show this again whenever you like.</source>
-        <translation>In den Einstellungen lässt sich dies jederzeit wieder aufrufen.</translation>
+        <source>All set</source>
+        <translation>Alles bereit</translation>
+    </message>
+    <message>
+        <source>Press the island to open the dashboard: what plays, the weather, the load, files.</source>
+        <translation>Ein Druck auf die Insel öffnet die Übersicht: Wiedergabe, Wetter, Auslastung, Dateien.</translation>
+    </message>
+    <message>
+        <source>Scroll over it to change the volume.</source>
+        <translation>Scrollen darüber ändert die Lautstärke.</translation>
+    </message>
+    <message>
+        <source>The icon in the status bar has the settings, which show this window again, and ends Quillmere.</source>
+        <translation>Über das Symbol in der Statusleiste geht es zu den Einstellungen, die dieses Fenster wieder zeigen, und zum Beenden.</translation>
     </message>
 </context>
 <context>
@@ -969,18 +977,6 @@
     <message>
         <source>A small black island at the top of your screen. It grows for a moment when something happens, and stays out of the way when nothing does.</source>
         <translation>Eine kleine schwarze Insel am oberen Bildschirmrand. Sie wächst für einen Augenblick, wenn etwas geschieht, und stört nicht, wenn nichts geschieht.</translation>
-    </message>
-    <message>
-        <source>Press it to open the dashboard: what plays, the weather, the load, files.</source>
-        <translation>Ein Druck darauf öffnet die Übersicht: Wiedergabe, Wetter, Auslastung, Dateien.</translation>
-    </message>
-    <message>
-        <source>Scroll over it to change the volume.</source>
-        <translation>Scrollen darüber ändert die Lautstärke.</translation>
-    </message>
-    <message>
-        <source>It is quit, opened and set up from the icon in the status bar.</source>
-        <translation>Das Symbol in der Statusleiste zeigt sie, richtet sie ein und beendet sie.</translation>
     </message>
 </context>
 <context>

@@ -115,10 +115,6 @@
 <context>
     <name>FinishStep</name>
     <message>
-        <source>Ready</source>
-        <translation>准备就绪</translation>
-    </message>
-    <message>
         <source>Change the volume and look at the top of the screen.</source>
         <translation>调节一下音量，看看屏幕顶端。</translation>
     </message>
@@ -131,8 +127,20 @@
         <translation>只要您在，小岛就在。</translation>
     </message>
     <message>
-        <source>The settings show this again whenever you like.</source>
-        <translation>您可以随时在设置中再次打开本窗口。</translation>
+        <source>All set</source>
+        <translation>一切就绪</translation>
+    </message>
+    <message>
+        <source>Press the island to open the dashboard: what plays, the weather, the load, files.</source>
+        <translation>点按小岛即可打开面板：正在播放、天气、负载、文件。</translation>
+    </message>
+    <message>
+        <source>Scroll over it to change the volume.</source>
+        <translation>在上面滚动可调节音量。</translation>
+    </message>
+    <message>
+        <source>The icon in the status bar has the settings, which show this window again, and ends Quillmere.</source>
+        <translation>通过状态栏中的图标可以打开设置（其中可再次显示本窗口）和退出 Quillmere。</translation>
     </message>
 </context>
 <context>
@@ -968,18 +976,6 @@
     <message>
         <source>A small black island at the top of your screen. It grows for a moment when something happens, and stays out of the way when nothing does.</source>
         <translation>屏幕顶端的一个黑色小岛。有事发生时它会展开片刻，平时不会打扰您。</translation>
-    </message>
-    <message>
-        <source>Press it to open the dashboard: what plays, the weather, the load, files.</source>
-        <translation>点按即可打开面板：正在播放、天气、负载、文件。</translation>
-    </message>
-    <message>
-        <source>Scroll over it to change the volume.</source>
-        <translation>在上面滚动可调节音量。</translation>
-    </message>
-    <message>
-        <source>It is quit, opened and set up from the icon in the status bar.</source>
-        <translation>通过状态栏中的图标可以显示、设置和退出。</translation>
     </message>
 </context>
 <context>

@@ -5,7 +5,7 @@ StepPage {
 
     required property var setup
 
-    title: qsTr("Ready")
+    title: qsTr("All set")
     text: qsTr("Change the volume and look at the top of the screen.")
 
     Column {
@@ -31,16 +31,47 @@ StepPage {
                 onToggled: on => page.setup.launchAtLogin = on
             }
         }
-        Text {
+        Column {
             width: parent.width
-            text: qsTr("The settings show this again whenever you like.")
-            textFormat: Text.PlainText
-            wrapMode: Text.WordWrap
-            horizontalAlignment: Text.AlignLeft
-            font.pixelSize: 13
-            color: Look.quiet
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            spacing: 8
+
+            Repeater {
+                model: [
+                    qsTr("Press the island to open the dashboard: what plays, the weather, the load, files."),
+                    qsTr("Scroll over it to change the volume."),
+                    qsTr("The icon in the status bar has the settings, which show this window again, and ends Quillmere.")
+                ]
+
+                Item {
+                    required property string modelData
+
+                    width: parent.width
+                    height: tip.height
+
+                    Rectangle {
+                        anchors.left: parent.left
+                        anchors.leftMargin: 2
+                        y: 6
+                        width: 5
+                        height: 5
+                        radius: 2.5
+                        color: Look.accent
+                    }
+                    Text {
+                        id: tip
+
+                        anchors { left: parent.left; leftMargin: 17; right: parent.right }
+                        text: parent.modelData
+                        textFormat: Text.PlainText
+                        wrapMode: Text.WordWrap
+                        horizontalAlignment: Text.AlignLeft
+                        font.pixelSize: 13
+                        color: Look.text
+                        Accessible.role: Accessible.StaticText
+                        Accessible.name: text
+                    }
+                }
+            }
         }
     }
 }

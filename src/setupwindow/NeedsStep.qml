@@ -22,10 +22,14 @@ StepPage {
             interactive: contentHeight > height
             boundsBehavior: Flickable.StopAtBounds
             activeFocusOnTab: interactive
+            Behavior on contentY {
+                enabled: !Look.still && !list.moving
+                NumberAnimation { duration: 140; easing.type: Easing.OutCubic }
+            }
             Accessible.role: Accessible.List
             Accessible.name: page.title
-            Keys.onDownPressed: contentY = Math.min(contentHeight - height, contentY + 42)
-            Keys.onUpPressed: contentY = Math.max(0, contentY - 42)
+            Keys.onDownPressed: contentY = Math.min(contentHeight - height, contentY + 40)
+            Keys.onUpPressed: contentY = Math.max(0, contentY - 40)
 
             Column {
                 id: rows
@@ -41,7 +45,7 @@ StepPage {
                         required property var modelData
 
                         width: list.width
-                        height: Math.max(42, words.height + 12)
+                        height: Math.max(40, words.height + 8)
                         visible: modelData.isOn
 
                         Accessible.role: Accessible.ListItem
@@ -83,7 +87,7 @@ StepPage {
                                 wrapMode: Text.WordWrap
                                 horizontalAlignment: Text.AlignLeft
                                 font.pixelSize: 12
-                                color: row.modelData.isMet ? Look.quiet : Look.warning
+                                color: row.modelData.isMissing ? Look.warning : Look.quiet
                             }
                         }
                         Glyph {
@@ -92,13 +96,31 @@ StepPage {
                             anchors { right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
                             width: 14
                             height: 14
-                            visible: row.modelData.isMet
+                            visible: row.modelData.isReady
                             symbol: "checkmark"
                             color: Look.good
                         }
                     }
                 }
             }
+        }
+        Rectangle {
+            anchors { right: parent.right; rightMargin: 3 }
+            y: list.y + list.visibleArea.yPosition * list.height
+            width: 3
+            height: list.visibleArea.heightRatio * list.height
+            radius: 1.5
+            visible: list.interactive
+            color: Look.quiet
+            opacity: 0.5
+        }
+        Rectangle {
+            anchors.fill: parent
+            radius: 9
+            color: "transparent"
+            border.width: 2
+            border.color: Look.accent
+            visible: list.activeFocus
         }
     }
 }

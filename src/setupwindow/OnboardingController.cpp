@@ -38,6 +38,11 @@ void OnboardingController::show()
     setup_->window.present();
 }
 
+void OnboardingController::putAway()
+{
+    setup_.reset();
+}
+
 void OnboardingController::complete()
 {
     if (!setup_)

@@ -21,6 +21,9 @@ public:
     /// Opens the window at its first step, or brings the open one to the front.
     void show();
 
+    /// Takes the window away; nobody has completed anything by that.
+    void putAway();
+
     bool isShown() const { return setup_ != nullptr; }
 
 private:

@@ -28,9 +28,9 @@ Rectangle {
         id: island
 
         x: (parent.width - width) / 2
-        width: [150, 232, 268][picture.look]
-        height: [26, 40, 46][picture.look]
-        cornerRadius: Math.min(18, height / 2.2)
+        width: [168, 264, 300][picture.look]
+        height: [28, 46, 54][picture.look]
+        cornerRadius: Math.min(20, height / 2.2)
 
         Behavior on width {
             enabled: !picture.still

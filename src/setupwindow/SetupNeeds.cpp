@@ -14,13 +14,15 @@ namespace quillmere {
 
 namespace {
 
+using enum SetupNeed::State;
+
 struct Needs {
     Q_DECLARE_TR_FUNCTIONS(SetupNeeds)
 };
 
 SetupNeed missingSoundServer()
 {
-    return {Needs::tr("No sound server answers. Install PipeWire or PulseAudio."), false};
+    return {Needs::tr("No sound server answers. Install PipeWire or PulseAudio."), Missing};
 }
 
 } // namespace
@@ -47,24 +49,24 @@ SetupNeed brightnessNeed(const Platform &platform)
 {
     return platform.displayBrightness.isAvailable()
                ? SetupNeed{Needs::tr("Ready. The display tells its brightness.")}
-               : SetupNeed{Needs::tr("No display here tells its brightness yet.")};
+               : SetupNeed{Needs::tr("No display here tells its brightness yet."), Open};
 }
 
 SetupNeed mediaNeed(const Platform &platform)
 {
     return platform.mediaRemote.isAvailable()
                ? SetupNeed{Needs::tr("Ready. Players and browsers are found by themselves.")}
-               : SetupNeed{Needs::tr("There is no session bus to hear players on."), false};
+               : SetupNeed{Needs::tr("There is no session bus to hear players on."), Missing};
 }
 
 SetupNeed batteryNeed(const Platform &platform)
 {
     const PowerSources &power = platform.powerSources;
     if (!power.isAvailable())
-        return {Needs::tr("No power service answers. Install UPower."), false};
+        return {Needs::tr("No power service answers. Install UPower."), Missing};
     const auto status = power.status();
     return status ? SetupNeed{Needs::tr("Ready. The battery is at %1 %.").arg(status->level)}
-                  : SetupNeed{Needs::tr("This machine has no battery.")};
+                  : SetupNeed{Needs::tr("This machine has no battery."), Open};
 }
 
 SetupNeed weatherNeed(const Platform &platform)
@@ -75,24 +77,24 @@ SetupNeed weatherNeed(const Platform &platform)
     case AuthorizationStatus::AuthorizedAlways:
         return {Needs::tr("Ready. The desktop tells where you are.")};
     case AuthorizationStatus::NotDetermined:
-        return {Needs::tr("Asks the desktop where you are, or type a place on its page.")};
+        return {Needs::tr("Asks the desktop where you are, or type a place on its page."), Open};
     case AuthorizationStatus::Denied:
         return {Needs::tr("The desktop keeps your location private. Type a place on its page."),
-                false};
+                Missing};
     case AuthorizationStatus::Restricted:
         break;
     }
-    return {Needs::tr("There is no location service. Type a place on its page."), false};
+    return {Needs::tr("There is no location service. Type a place on its page."), Missing};
 }
 
 SetupNeed messagesNeed(const Platform & /*platform*/)
 {
-    return {Needs::tr("Read from the desktop's notifications, which show as before.")};
+    return {Needs::tr("Read from the desktop's notifications, which show as before."), Open};
 }
 
 SetupNeed mailNeed(const Platform & /*platform*/)
 {
-    return {Needs::tr("Read where Thunderbird, Evolution or a mail folder keeps it.")};
+    return {Needs::tr("Read where Thunderbird, Evolution or a mail folder keeps it."), Open};
 }
 
 SetupNeed fileTrayNeed(const Platform & /*platform*/)

@@ -8,8 +8,13 @@ struct Platform;
 
 /// What a source needs on this machine, as one line for a person.
 struct SetupNeed {
+    enum class State {
+        Ready,
+        Open,   ///< nothing to do, and nothing to promise either
+        Missing ///< the user can mend it
+    };
     QString text;
-    bool isMet = true; ///< false: something is missing that the user can mend
+    State state = State::Ready;
     bool operator==(const SetupNeed &) const = default;
 };
 

@@ -35,7 +35,8 @@ class SetupSource : public QObject
     Q_PROPERTY(QColor color READ color CONSTANT)
     Q_PROPERTY(bool isOn READ isOn WRITE setOn NOTIFY isOnChanged)
     Q_PROPERTY(QString need READ need NOTIFY needChanged)
-    Q_PROPERTY(bool isMet READ isMet NOTIFY needChanged)
+    Q_PROPERTY(bool isReady READ isReady NOTIFY needChanged)
+    Q_PROPERTY(bool isMissing READ isMissing NOTIFY needChanged)
 
 public:
     SetupSource(const Platform &platform, SettingsStore &settings, SetupSourceInfo info);
@@ -46,7 +47,8 @@ public:
     bool isOn() const { return isOn_; }
     void setOn(bool on);
     QString need() const { return need_.text; }
-    bool isMet() const { return need_.isMet; }
+    bool isReady() const { return need_.state == SetupNeed::State::Ready; }
+    bool isMissing() const { return need_.state == SetupNeed::State::Missing; }
 
     /// Looks again at what the machine has.
     void refreshNeed();

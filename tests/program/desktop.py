@@ -114,12 +114,13 @@ class PrivateDesktop:
             "</fontconfig>"
         )
 
-        # A window of the name "cinema" fills the screen, as a film would.
+        # Alt+F4 closes a window as its close button does. One of the name "cinema" fills the screen, as a film would.
         window_manager = self.dir / "config" / "openbox"
         window_manager.mkdir()
         (window_manager / "rc.xml").write_text(
             '<?xml version="1.0"?><openbox_config xmlns="http://openbox.org/3.4/rc">'
             "<desktops><number>2</number></desktops>"
+            '<keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>'
             '<applications><application title="cinema"><fullscreen>yes</fullscreen></application></applications>'
             "</openbox_config>"
         )
