@@ -33,9 +33,11 @@ done
 cp /etc/resolv.conf "$root/etc/"
 inside apt-get -q update
 # What a desktop has, so that what is left later is the package's doing.
-inside apt-get -q -y install --no-install-recommends dbus dbus-x11 xvfb xdotool openbox libglib2.0-bin libgtk-3-bin \
+inside apt-get -q -y install --no-install-recommends dbus xvfb xdotool openbox libglib2.0-bin libgtk-3-bin \
     hicolor-icon-theme
 inside apt-get -q clean
+inside apt-get -q -y purge quillmere # what a run that was cut short has left
+inside apt-get -q -y autoremove --purge
 before=$(snapshot)
 
 echo "== install"
@@ -50,7 +52,9 @@ Xvfb -screen 0 1512x982x24 -nolisten tcp -displayfd 5 5>$XDG_RUNTIME_DIR/display
 server=$!
 until [[ -s $XDG_RUNTIME_DIR/display ]]; do sleep 0.1; done
 export DISPLAY=:$(<$XDG_RUNTIME_DIR/display)
-openbox & windows=$!
+openbox 2>/dev/null &
+windows=$!
+dbus-update-activation-environment DISPLAY HOME XDG_RUNTIME_DIR # as a session does, for what the bus starts
 gtk-launch com.quillmere.Quillmere
 for _ in {1..100}; do
     quillmerectl get Presentation 2>/dev/null && break
@@ -66,6 +70,7 @@ done
 echo "its own files:"
 find "$HOME" -type f
 kill $windows $server
+wait $windows $server || true
 rm -rf "$HOME" "$XDG_RUNTIME_DIR"
 DESKTOP
 inside dbus-run-session -- bash /tmp/desktop.sh

@@ -24,6 +24,45 @@ Rectangle {
         onTriggered: picture.look = (picture.look + 1) % 3
     }
 
+    // Windows at work, to see how little of the screen it takes.
+    Repeater {
+        model: [
+            { x: 0.1, y: 0.42, width: 0.46, lines: [0.5, 0.8, 0.7] },
+            { x: 0.6, y: 0.56, width: 0.3, lines: [0.7, 0.45] }
+        ]
+
+        Rectangle {
+            id: sheet
+
+            required property var modelData
+
+            x: picture.width * modelData.x
+            y: picture.height * modelData.y
+            width: picture.width * modelData.width
+            height: picture.height
+            radius: 8
+            color: Qt.rgba(1, 1, 1, 0.13)
+
+            Column {
+                anchors { left: parent.left; right: parent.right; top: parent.top; margins: 16 }
+                spacing: 10
+
+                Repeater {
+                    model: sheet.modelData.lines
+
+                    Rectangle {
+                        required property real modelData
+
+                        width: parent.width * modelData
+                        height: 6
+                        radius: 3
+                        color: Qt.rgba(1, 1, 1, 0.2)
+                    }
+                }
+            }
+        }
+    }
+
     Silhouette {
         id: island
 
@@ -60,14 +99,13 @@ Rectangle {
             number: 1
 
             Glyph {
-                x: 16
-                anchors.verticalCenter: parent.verticalCenter
+                anchors { left: parent.left; leftMargin: 18; verticalCenter: parent.verticalCenter }
                 width: 18
                 height: 18
                 symbol: "speaker.wave.2.fill"
             }
             Rectangle {
-                anchors { left: parent.left; leftMargin: 46; right: parent.right; rightMargin: 18; verticalCenter: parent.verticalCenter }
+                anchors { left: parent.left; leftMargin: 50; right: parent.right; rightMargin: 18; verticalCenter: parent.verticalCenter }
                 height: 6
                 radius: 3
                 color: Qt.rgba(1, 1, 1, 0.25)
@@ -84,11 +122,10 @@ Rectangle {
             number: 2
 
             Rectangle {
-                x: 12
-                anchors.verticalCenter: parent.verticalCenter
-                width: 28
-                height: 28
-                radius: 6
+                anchors { left: parent.left; leftMargin: 13; verticalCenter: parent.verticalCenter }
+                width: 32
+                height: 32
+                radius: 7
                 gradient: Gradient {
                     GradientStop { position: 0; color: "#ffc46b" }
                     GradientStop { position: 1; color: "#c2368b" }
