@@ -163,6 +163,9 @@ TEST_F(DesktopAppearanceTest, ReadsWhatDesktopsTell)
          true,
          {.highContrast = true}},
         {"accent", common, "accent-color", color(0, 0.5, 1), {.accent = AccentColor{0, 0.5, 1}}},
+        {"dark", common, "color-scheme", 1U, {.scheme = ColorScheme::Dark}},
+        {"light", common, "color-scheme", 2U, {.scheme = ColorScheme::Light}},
+        {"wrong scheme", common, "color-scheme", u"dark"_s, {}},
         {"no accent", common, "accent-color", color(-1, -1, -1), {}},
         {"wrong accent", common, "accent-color", u"#3584e4"_s, {}},
     };
@@ -173,7 +176,8 @@ TEST_F(DesktopAppearanceTest, ReadsWhatDesktopsTell)
         roundTrip(bus);
         EXPECT_TRUE(eventually([&] {
             return AppearanceValues{appearance.reducesMotion(), appearance.highContrast(),
-                                    appearance.accentColor()} == each.expected;
+                                    appearance.accentColor(),
+                                    appearance.colorScheme()} == each.expected;
         })) << each.what;
     }
 }

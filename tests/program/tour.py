@@ -5,6 +5,7 @@
 
 import argparse
 import contextlib
+import re
 import time
 from pathlib import Path
 
@@ -15,6 +16,7 @@ from desktop import PipeWireDesktop, PrivateDesktop, end_process, wait_until
 from drag import Drag
 from island import Island, is_black
 from players import make_track, start_mpv
+from portal import prefer_dark
 from power import Battery
 from wayland import WaylandDesktop
 from weather import WeatherServers, forecast
@@ -457,6 +459,28 @@ def visit(album, build, look, scale, kind=PrivateDesktop):
             raise SystemExit("\n".join(faults))
 
 
+def visit_setup(album, build, look, scale, language=None):
+    """The setup window step by step, as a keyboard goes through it."""
+    with PrivateDesktop(scale, "dark") as desktop:
+        if look == "dark":
+            prefer_dark(desktop)
+        if language:
+            desktop.env |= {"LC_ALL": "", "LANG": f"{language}.UTF-8"}
+        with Island(desktop, build, SETTINGS, first_run=True) as island:
+            island.wait_out_mute()
+            find = ["xdotool", "search", "--sync", "--onlyvisible", "--name", "Quillmere Setup"]
+            place = desktop.run(*find, "getwindowgeometry", "--shell")
+            x, y, width, height = (int(re.search(rf"^{key}=(\d+)$", place, re.M).group(1))
+                                   for key in ("X", "Y", "WIDTH", "HEIGHT"))  # fmt: skip
+            for step in ("welcome", "sources", "needs", "finish"):
+                time.sleep(0.6)  # the picture on the first page never rests
+                name = f"setup-{step}-{look}-{scale}x" + (f"-{language}" if language else "")
+                album.add(desktop.screen.grab(x - 24, y - 44, width + 48, height + 68), name)
+                desktop.run("xdotool", "key", "Return")
+            if faults := island.faults():
+                raise SystemExit("\n".join(faults))
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--build", required=True)
@@ -469,6 +493,10 @@ def main():
     visit(album, build, "dark", 1, PipeWireDesktop)
     for scale in (1, 2):
         visit_wayland(album, build, scale)
+    for look, scale, language in (
+        ("light", 1, None), ("dark", 2, None), ("light", 3, None), ("light", 1, "de_DE"), ("dark", 1, "ar_EG")
+    ):  # fmt: skip
+        visit_setup(album, build, look, scale, language)
 
 
 if __name__ == "__main__":

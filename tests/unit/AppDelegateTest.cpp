@@ -73,6 +73,7 @@ protected:
     void launch(Duration settled = 5s)
     {
         app.emplace(platform, library.path(), QStringLiteral("1.0"));
+        app->appDelegate().onShowOnboarding = [this] { ++setups; };
         app->launch([this] { ++terminations; });
         runLoop.advance(settled);
     }
@@ -173,6 +174,7 @@ protected:
     QTemporaryDir library;
     AudioDeviceID speakers = 0;
     int terminations = 0;
+    int setups = 0;
     mutable std::optional<QuillmereApp> app;
 };
 
@@ -192,6 +194,21 @@ TEST_F(AppDelegateTest, AVolumeChangeBecomesAHUDForItsDuration)
     EXPECT_FALSE(showsHUD());
     EXPECT_TRUE(state.hud().isEmpty());
     EXPECT_EQ(state.values.value(QStringLiteral("Frame")).toRect(), QRect(437, 0, 126, 32));
+}
+
+TEST_F(AppDelegateTest, TheSetupWindowComesAtTheFirstLaunchAndWhenItIsAskedFor)
+{
+    launch();
+    EXPECT_EQ(setups, 1);
+    EXPECT_TRUE(statusItem.shown.has_value()); // which is there as well
+    app->settings().hasCompletedOnboarding.set(true);
+    app->terminate();
+    app.reset();
+
+    launch();
+    EXPECT_EQ(setups, 1);
+    notifications.post(events::showOnboarding);
+    EXPECT_EQ(setups, 2);
 }
 
 TEST_F(AppDelegateTest, PowerIsToldOfAsFarAsTheSettingsWantIt)
