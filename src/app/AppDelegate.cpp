@@ -7,6 +7,7 @@
 #include "app/FileDrop.h"
 #include "app/FileTray.h"
 #include "app/FocusAlerts.h"
+#include "app/GoogleAccount.h"
 #include "app/MediaPlayback.h"
 #include "app/Messages.h"
 #include "app/PowerAlerts.h"
@@ -169,6 +170,7 @@ void AppDelegate::createIsland()
         [this](HUDContent::HUDType type) { return this->isSuppressed(type); });
     messages_ = std::make_unique<Messages>(platform_, settings_, hudManager_, QDir::homePath(),
                                            isSuppressed);
+    google_ = std::make_unique<GoogleAccount>(platform_, settings_, hudManager_, isSuppressed);
     weather_ =
         std::make_unique<WeatherReports>(WeatherTools{.runLoop = platform_.runLoop,
                                                       .locationManager = platform_.locationManager,
@@ -197,6 +199,7 @@ void AppDelegate::createMonitors()
     createAudioOutputMonitor();
     messages_->startMail();
     messages_->startNotifications();
+    google_->start();
     startClaudeCode();
     systemLoad_->start();
 }
@@ -396,6 +399,8 @@ void AppDelegate::applicationWillTerminate()
     soundServerChanged(false);
     if (messages_)
         messages_->stop();
+    if (google_)
+        google_->stop();
     if (claudeCode_)
         claudeCode_->stop();
     if (systemLoad_)

@@ -24,6 +24,7 @@ class FileDragWatcher;
 class FileTray;
 class FloatingPanel;
 class FocusAlerts;
+class GoogleAccount;
 class HUDManager;
 class IdleWings;
 class IslandDebugLogger;
@@ -85,6 +86,7 @@ public:
     ClaudeCodeMonitor *claudeCode() const { return claudeCode_.get(); }
     WeatherReports *weather() const { return weather_.get(); }
     Timers *timers() const { return timers_.get(); }
+    GoogleAccount *google() const { return google_.get(); }
     FloatingPanel *floatingPanel() const { return floatingPanel_.get(); }
     ContentView *contentView() const { return contentView_.get(); }
 
@@ -139,6 +141,7 @@ private:
     std::unique_ptr<Timers> timers_;
     std::unique_ptr<Messages> messages_;
     std::unique_ptr<FocusAlerts> focusAlerts_;
+    std::unique_ptr<GoogleAccount> google_;
     std::unique_ptr<PowerAlerts> powerAlerts_;
     std::unique_ptr<WeatherReports> weather_;
     std::unique_ptr<SystemLoad> systemLoad_;

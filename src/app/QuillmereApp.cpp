@@ -25,8 +25,9 @@ void QuillmereApp::launch(std::function<void()> onTerminate)
         platform_.statePublisher, hudManager_, *appDelegate_.contentView(),
         *appDelegate_.floatingPanel(), *appDelegate_.claudeCode(),
         appDelegate_.weather()->service(), *appDelegate_.timers());
-    remoteActions_ = std::make_unique<RemoteActions>(platform_.remoteControl,
-                                                     platform_.notificationCenter, appDelegate_);
+    remoteActions_ =
+        std::make_unique<RemoteActions>(platform_.remoteControl, platform_.notificationCenter,
+                                        platform_.webAuthSession, appDelegate_);
 }
 
 void QuillmereApp::terminate()

@@ -2,12 +2,15 @@
 
 #include "app/AppDelegate.h"
 #include "app/AppEvents.h"
+#include "app/GoogleAccount.h"
 #include "app/MediaPlayback.h"
 #include "platform/NotificationCenter.h"
 #include "platform/RemoteControl.h"
+#include "platform/WebAuthSession.h"
 #include "tools/Timers.h"
 
 #include <QDebug>
+#include <QUrl>
 
 namespace quillmere {
 
@@ -21,10 +24,24 @@ std::function<void()> onMedia(AppDelegate &delegate, void (MediaPlayback::*comma
     };
 }
 
+std::function<void()> onGoogle(AppDelegate &delegate, void (GoogleAccount::*command)())
+{
+    return [&delegate, command] {
+        if (auto *google = delegate.google())
+            (google->*command)();
+    };
+}
+
+/// An address may carry what nobody else is to read.
+QString withoutDetails(const QUrl &address)
+{
+    return address.toString(QUrl::RemoveUserInfo | QUrl::RemoveQuery | QUrl::RemoveFragment);
+}
+
 } // namespace
 
 RemoteActions::RemoteActions(RemoteControl &remoteControl, NotificationCenter &notificationCenter,
-                             AppDelegate &delegate)
+                             WebAuthSession &webAuthSession, AppDelegate &delegate)
     : remoteControl_(remoteControl)
     , delegate_(delegate)
     , actions_{
@@ -38,6 +55,8 @@ RemoteActions::RemoteActions(RemoteControl &remoteControl, NotificationCenter &n
           {QStringLiteral("next-track"), onMedia(delegate, &MediaPlayback::nextTrack)},
           {QStringLiteral("previous-track"), onMedia(delegate, &MediaPlayback::previousTrack)},
           {QStringLiteral("check-for-updates"), [&delegate] { delegate.checkForUpdates(); }},
+          {QStringLiteral("sign-in-to-google"), onGoogle(delegate, &GoogleAccount::signIn)},
+          {QStringLiteral("sign-out-of-google"), onGoogle(delegate, &GoogleAccount::signOut)},
           {QStringLiteral("settings"),
            [&notificationCenter] { notificationCenter.post(events::openSettingsRequest); }},
           {QStringLiteral("quit"), [&delegate] { delegate.terminate(); }},
@@ -46,8 +65,12 @@ RemoteActions::RemoteActions(RemoteControl &remoteControl, NotificationCenter &n
     remoteControl_.setHandlers({
         .activate = [&delegate] { delegate.showIsland(); },
         .open =
-            [](const QStringList &uris) {
-                qWarning("[Quillmere] Nothing here opens %s", qUtf8Printable(uris.value(0)));
+            [&webAuthSession](const QStringList &uris) {
+                for (const QString &uri : uris) {
+                    if (const QUrl address(uri); !webAuthSession.take(address))
+                        qWarning("[Quillmere] Nothing here opens %s",
+                                 qUtf8Printable(withoutDetails(address)));
+                }
             },
         .activateAction =
             [this](const QString &action, const QVariantList &parameter) {

@@ -11,6 +11,7 @@ namespace quillmere {
 class AppDelegate;
 class NotificationCenter;
 class RemoteControl;
+class WebAuthSession;
 struct ActionOutcome;
 
 /// Answers what other programs, desktop actions and key bindings ask of the running program.
@@ -18,7 +19,7 @@ class RemoteActions
 {
 public:
     RemoteActions(RemoteControl &remoteControl, NotificationCenter &notificationCenter,
-                  AppDelegate &delegate);
+                  WebAuthSession &webAuthSession, AppDelegate &delegate);
     ~RemoteActions();
     RemoteActions(const RemoteActions &) = delete;
     RemoteActions &operator=(const RemoteActions &) = delete;

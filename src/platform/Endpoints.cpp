@@ -28,6 +28,14 @@ constexpr std::array rows{
         QLatin1StringView{"https://weatherkit.apple.com"}},
     Row{EndpointName::PlaceSearch, QLatin1StringView{"QUILLMERE_PLACE_SEARCH_URL"},
         QLatin1StringView{"https://geocoding-api.open-meteo.com"}},
+    Row{EndpointName::GoogleAuth, QLatin1StringView{"QUILLMERE_GOOGLE_AUTH_URL"},
+        QLatin1StringView{"https://accounts.google.com"}},
+    Row{EndpointName::GoogleToken, QLatin1StringView{"QUILLMERE_GOOGLE_TOKEN_URL"},
+        QLatin1StringView{"https://oauth2.googleapis.com"}},
+    Row{EndpointName::Gmail, QLatin1StringView{"QUILLMERE_GMAIL_URL"},
+        QLatin1StringView{"https://gmail.googleapis.com"}},
+    Row{EndpointName::GoogleCalendar, QLatin1StringView{"QUILLMERE_GOOGLE_CALENDAR_URL"},
+        QLatin1StringView{"https://www.googleapis.com"}},
 };
 
 constexpr QLatin1StringView loopback{"127.0.0.1"};

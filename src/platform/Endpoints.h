@@ -13,7 +13,11 @@ enum class EndpointName {
     VideoThumbnail,
     OpenMeteo,
     WeatherKit,
-    PlaceSearch
+    PlaceSearch,
+    GoogleAuth,
+    GoogleToken,
+    Gmail,
+    GoogleCalendar
 };
 
 struct Endpoint {

@@ -32,6 +32,15 @@ public:
     /// needs to unlock the keyring. Destroying the Task gives up and `done` is not called.
     virtual Task read(const QString &service, const QString &account,
                       std::function<void(const Secret &)> done) = 0;
+
+    using Done = std::function<void(const tl::expected<void, KeychainError> &)>;
+
+    /// Stores `secret`, in place of one that is there. `done` as above; giving up does not undo it.
+    virtual Task write(const QString &service, const QString &account, const QString &secret,
+                       Done done) = 0;
+
+    /// Deletes a secret; that there is none is an error of the kind NotFound.
+    virtual Task remove(const QString &service, const QString &account, Done done) = 0;
 };
 
 } // namespace quillmere

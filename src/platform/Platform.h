@@ -42,6 +42,7 @@ class SystemSound;
 class UserDefaults;
 class UserFiles;
 class UserNotifications;
+class WebAuthSession;
 
 /// The operating system's services as the application sees them. The composition root builds them
 /// and keeps them alive for longer than everything that uses them.
@@ -84,6 +85,7 @@ struct Platform {
     NewMailSignal &newMailSignal;
     ApplicationLauncher &applicationLauncher;
     ApplicationIcons &applicationIcons;
+    WebAuthSession &webAuthSession;
     StatePublisher &statePublisher;
     RemoteControl &remoteControl;
     ShortcutPublisher &shortcutPublisher;

@@ -61,6 +61,7 @@ inline constexpr QLatin1StringView numberSign{"number"};
 inline constexpr QLatin1StringView envelope{"envelope.fill"};
 inline constexpr QLatin1StringView bell{"bell.fill"};
 inline constexpr QLatin1StringView bellSlash{"bell.slash.fill"};
+inline constexpr QLatin1StringView calendar{"calendar"};
 
 inline constexpr std::array all{
     pencil,     timer,           hourglass,    stopwatch,    stopCircle,     xmarkCircle,
@@ -70,6 +71,7 @@ inline constexpr std::array all{
     battery25,  battery50,       battery75,    battery100,   battery100Bolt, trayAndArrowDown,
     island,     playFill,        pauseFill,    backwardFill, forwardFill,    shuffle,
     repeat,     heart,           docOnDoc,     musicNote,    playCircle,     magnifyingGlass,
-    bubbles,    numberSign,      envelope,     bell,         bellSlash,      repeat1};
+    bubbles,    numberSign,      envelope,     bell,         bellSlash,      repeat1,
+    calendar};
 
 } // namespace quillmere::symbols

@@ -62,6 +62,7 @@ constexpr std::array glyphNames{
     GlyphName{symbols::envelope, QLatin1StringView{"status/mail-unread"}},
     GlyphName{symbols::bell, QLatin1StringView{"legacy/preferences-system-notifications"}},
     GlyphName{symbols::bellSlash, QLatin1StringView{"status/notifications-disabled"}},
+    GlyphName{symbols::calendar, QLatin1StringView{"mimetypes/x-office-calendar"}},
     GlyphName{symbols::island, QLatin1StringView{"status/island"}},
     GlyphName{symbols::weather::moon, QLatin1StringView{"status/weather-clear-night"}},
     GlyphName{symbols::weather::cloud, QLatin1StringView{"status/weather-overcast"}},

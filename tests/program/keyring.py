@@ -22,3 +22,12 @@ class Keyring:
         """As the program itself keeps its secrets."""
         attributes = ["xdg:schema", "org.qt.keychain", "server", service, "user", account, "type", "plaintext"]
         self._desktop.run("secret-tool", "store", "--label=Quillmere", *attributes, text=secret)
+
+    def lookup(self, service, account):
+        """The secret, or nothing."""
+        return self._desktop.run("secret-tool", "lookup", "server", service, "user", account, check=False)
+
+    def lock(self):
+        collection = "array:objpath:/org/freedesktop/secrets/collection/login"
+        self._desktop.run("dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.secrets",
+                          "/org/freedesktop/secrets", "org.freedesktop.Secret.Service.Lock", collection)  # fmt: skip

@@ -8,6 +8,8 @@
 
 #include "platform/Listeners.h"
 
+#include <optional>
+
 namespace quillmere {
 
 /// A location manager that the test decides for.
@@ -83,6 +85,19 @@ public:
         waiting_ = std::move(done);
         return isWaiting ? Task() : runLoop_.after({}, [this] { answer(); });
     }
+    Task write(const QString &service, const QString &account, const QString &text,
+               Done done) override
+    {
+        return change(QStringLiteral("write ") + service + u'/' + account, std::move(done),
+                      [this, text] { secret = text; });
+    }
+    Task remove(const QString &service, const QString &account, Done done) override
+    {
+        return change(QStringLiteral("remove ") + service + u'/' + account, std::move(done),
+                      [this] {
+                          secret = tl::unexpected(KeychainError{KeychainError::Kind::NotFound, {}});
+                      });
+    }
     void answer()
     {
         if (const auto done = std::exchange(waiting_, nullptr))
@@ -91,9 +106,22 @@ public:
 
     Secret secret = tl::unexpected(KeychainError{KeychainError::Kind::NotFound, {}});
     bool isWaiting = false;
+    std::optional<KeychainError> refusal{}; ///< of every change
     QStringList reads;
+    QStringList changes;
 
 private:
+    Task change(const QString &what, Done done, std::function<void()> apply)
+    {
+        changes.append(what);
+        return runLoop_.after({}, [this, done = std::move(done), apply = std::move(apply)] {
+            if (refusal)
+                return done(tl::unexpected(*refusal));
+            apply();
+            done({});
+        });
+    }
+
     ManualRunLoop &runLoop_;
     std::function<void(const Secret &)> waiting_;
 };

@@ -29,6 +29,7 @@
 #include "support/FakeShortcutPublisher.h"
 #include "support/FakeStatusItem.h"
 #include "support/FakeWeather.h"
+#include "support/FakeWebAuthSession.h"
 #include "support/ManualRunLoop.h"
 #include "support/MemoryCloudStore.h"
 #include "support/MemoryUserDefaults.h"
@@ -130,6 +131,7 @@ protected:
     FakeNewMailSignal newMailSignal;
     FakeApplicationLauncher launcher;
     FakeApplicationIcons icons;
+    FakeWebAuthSession webAuthSession;
     Platform platform{runLoop,
                       notifications,
                       defaults,
@@ -168,6 +170,7 @@ protected:
                       newMailSignal,
                       launcher,
                       icons,
+                      webAuthSession,
                       state,
                       remote,
                       desktop};

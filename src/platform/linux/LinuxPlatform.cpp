@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QIcon>
+#include <QDesktopServices>
 
 namespace quillmere {
 
@@ -29,6 +30,13 @@ ProcessScriptRunner::Places scriptPlaces()
 {
     return {.replacements = xdg::configHome() + QStringLiteral("/quillmere/scripts"),
             .builtIn = helperFolder()};
+}
+
+SchemeHandlerPlaces schemeHandlerPlaces()
+{
+    return {.configHome = xdg::configHome(),
+            .dataHome = xdg::dataHome(),
+            .program = QCoreApplication::applicationFilePath()};
 }
 
 } // namespace
@@ -64,6 +72,7 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
     , notificationFeed_(runLoop, sessionBusAddress())
     , newMailSignal_(sessionBus(bus))
     , applicationIcons_(runLoop, &QIcon::themeName)
+    , webAuthSession_(runLoop, schemeHandlerPlaces(), &QDesktopServices::openUrl)
     , services_{runLoop,
                 notificationCenter_,
                 userDefaults_,
@@ -102,6 +111,7 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
                 newMailSignal_,
                 applicationLauncher_,
                 applicationIcons_,
+                webAuthSession_,
                 bus.statePublisher(),
                 bus.remoteControl(),
                 bus.shortcuts()}

@@ -13,6 +13,7 @@
 #include "platform/linux/bluetooth/BusBluetoothBatteries.h"
 #include "platform/linux/desktop/AutostartLoginItem.h"
 #include "platform/linux/desktop/DesktopIcons.h"
+#include "platform/linux/desktop/BrowserAuthSession.h"
 #include "platform/linux/desktop/DesktopLauncher.h"
 #include "platform/linux/desktop/FileUserDefaults.h"
 #include "platform/linux/desktop/FolderCloudStore.h"
@@ -88,6 +89,7 @@ private:
     EvolutionMail newMailSignal_;
     DesktopLauncher applicationLauncher_;
     DesktopIcons applicationIcons_;
+    BrowserAuthSession webAuthSession_;
     Platform services_;
 };
 

@@ -19,6 +19,11 @@ QString configHome()
     return directory("XDG_CONFIG_HOME", QLatin1StringView(".config"));
 }
 
+QString dataHome()
+{
+    return directory("XDG_DATA_HOME", QLatin1StringView(".local/share"));
+}
+
 QString stateHome()
 {
     return directory("XDG_STATE_HOME", QLatin1StringView(".local/state"));

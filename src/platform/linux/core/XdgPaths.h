@@ -7,6 +7,7 @@
 namespace quillmere::xdg {
 
 QString configHome();
+QString dataHome();
 QString stateHome();
 
 } // namespace quillmere::xdg

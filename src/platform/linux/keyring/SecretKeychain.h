@@ -11,6 +11,9 @@ class SecretKeychain : public Keychain
 public:
     Task read(const QString &service, const QString &account,
               std::function<void(const Secret &)> done) override;
+    Task write(const QString &service, const QString &account, const QString &secret,
+               Done done) override;
+    Task remove(const QString &service, const QString &account, Done done) override;
 };
 
 } // namespace quillmere

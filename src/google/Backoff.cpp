@@ -1,0 +1,57 @@
+#include "google/Backoff.h"
+
+#include <algorithm>
+
+namespace quillmere {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr Duration shortest = 1min;
+constexpr Duration longest = 30min;
+constexpr Duration longestAsked = 24h;
+constexpr int forbidden = 403;
+constexpr int tooManyRequests = 429;
+constexpr int serverError = 500;
+
+} // namespace
+
+void Backoff::answered(const HttpResponse &response, Instant now, const QDateTime &date)
+{
+    if (!wantsPause(response)) {
+        length_ = {};
+        end_ = {};
+        return;
+    }
+    length_ = std::clamp(length_ * 2, shortest, longest);
+    end_ = now + std::min(retryAfter(response.headers, date).value_or(length_), longestAsked);
+}
+
+bool wantsPause(const HttpResponse &response)
+{
+    return response.status == tooManyRequests || response.status >= serverError ||
+           // The quota of a user or of a project, under another status.
+           (response.status == forbidden && (response.body.contains("ateLimitExceeded") ||
+                                             response.body.contains("quotaExceeded")));
+}
+
+std::optional<Duration> retryAfter(const HttpHeaders &headers, const QDateTime &date)
+{
+    const auto header = std::ranges::find(headers, QByteArray("retry-after"),
+                                          &std::pair<QByteArray, QByteArray>::first);
+    if (header == headers.end())
+        return std::nullopt;
+    bool isNumber = false;
+    const double number = header->second.trimmed().toDouble(&isNumber);
+    if (isNumber)
+        return seconds(number);
+    QString text = QString::fromLatin1(header->second);
+    text.replace(QStringLiteral("GMT"), QStringLiteral("+0000"));
+    const QDateTime end = QDateTime::fromString(text, Qt::RFC2822Date);
+    if (!end.isValid())
+        return std::nullopt;
+    return seconds(static_cast<double>(date.msecsTo(end)) / 1000);
+}
+
+} // namespace quillmere

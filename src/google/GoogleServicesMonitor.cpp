@@ -1,0 +1,111 @@
+#include "google/GoogleServicesMonitor.h"
+
+#include "google/CalendarEvents.h"
+#include "settings/SettingsStore.h"
+
+#include <algorithm>
+
+namespace quillmere {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr Duration shortestInterval = 30s;
+constexpr Duration tolerance = 5s;
+constexpr double secondsPerMinute = 60;
+
+} // namespace
+
+GoogleServicesMonitor::GoogleServicesMonitor(RunLoop &runLoop, SettingsStore &settings,
+                                             HttpClient &httpClient, GoogleAuthManager &authManager)
+    : runLoop_(runLoop)
+    , settings_(settings)
+    , gmail_(runLoop, httpClient, authManager, EndpointName::Gmail, QLatin1StringView("Gmail"))
+    , calendar_(runLoop, httpClient, authManager, EndpointName::GoogleCalendar,
+                QLatin1StringView("Calendar"))
+{
+}
+
+void GoogleServicesMonitor::start()
+{
+    if (isRunning())
+        return;
+    const Duration interval =
+        std::max(seconds(settings_.googlePollInterval.get()), shortestInterval);
+    timer_ = runLoop_.every(interval, tolerance, [this] { poll(); });
+}
+
+void GoogleServicesMonitor::poll()
+{
+    if (settings_.showGmailHUD.get())
+        pollGmail();
+    else
+        hasSeenInitialGmailState_ = false;
+    if (settings_.showGoogleCalendarHUD.get())
+        pollCalendar();
+}
+
+void GoogleServicesMonitor::pollGmail()
+{
+    if (isPollingGmail_ || !gmail_.mayAsk())
+        return;
+    isPollingGmail_ = true;
+    gmail_.get(unreadMailRequest(), [this](const auto &answer) {
+        isPollingGmail_ = false;
+        if (answer)
+            takeInbox(messageIDs(*answer));
+    });
+}
+
+void GoogleServicesMonitor::takeInbox(const QStringList &ids)
+{
+    unannounced_.clear();
+    for (const QString &id : ids) {
+        if (seenMessageIDs_.insert(id) && hasSeenInitialGmailState_)
+            unannounced_.append(id);
+    }
+    hasSeenInitialGmailState_ = true;
+    announceMessages();
+}
+
+/// The newest last, as it is the one that stays on show.
+void GoogleServicesMonitor::announceMessages()
+{
+    if (unannounced_.isEmpty())
+        return;
+    isPollingGmail_ = true;
+    gmail_.get(messageRequest(unannounced_.takeLast()), [this](const auto &answer) {
+        isPollingGmail_ = false;
+        if (!answer)
+            return;
+        const GmailMessage message = gmailMessage(*answer);
+        if (onNewGmailMessage)
+            onNewGmailMessage(message.sender, message.subject);
+        announceMessages();
+    });
+}
+
+void GoogleServicesMonitor::pollCalendar()
+{
+    if (isPollingCalendar_ || !calendar_.mayAsk())
+        return;
+    isPollingCalendar_ = true;
+    const Duration ahead = seconds(settings_.googleCalendarAlertMinutes.get() * secondsPerMinute);
+    calendar_.get(upcomingEventsRequest(runLoop_.date(), ahead), [this](const auto &answer) {
+        isPollingCalendar_ = false;
+        if (!answer)
+            return;
+        if (const auto event = eventToAnnounce(*answer, notifiedEventIDs_, runLoop_.date()))
+            announce(*event);
+    });
+}
+
+void GoogleServicesMonitor::announce(const CalendarEvent &event)
+{
+    notifiedEventIDs_.insert(event.id);
+    if (onUpcomingEvent)
+        onUpcomingEvent(event.title, event.start, event.link);
+}
+
+} // namespace quillmere
