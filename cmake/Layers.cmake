@@ -17,14 +17,16 @@ set(layer_messages   island log settings platform events)
 set(layer_google     island log settings platform events)
 set(layer_app        nowplaying weather messages google tools island monitors claude log settings platform events)
 set(layer_views      app weather messages google tools island claude log settings platform events)
-set(layer_setup    views app log settings platform events)
+set(layer_setupwindow views app log settings platform events)
+set(layer_settingswindow views app weather messages tools island claude log settings platform events)
 set(layer_linux      platform events)
 
 # What a layer of logic may take from outside: no bus, no widgets, no scene graph.
 set(outside_logic    Qt6::Core Qt6::Gui tl::expected)
 set(outside_claude   ${outside_logic} nlohmann_json::nlohmann_json)
 set(outside_views    Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick Qt6::Svg tl::expected)
-set(outside_setup    ${outside_views})
+set(outside_setupwindow ${outside_views})
+set(outside_settingswindow ${outside_views})
 set(outside_linux    Qt6::Core Qt6::Gui Qt6::GuiPrivate Qt6::DBus Qt6::Network tl::expected nlohmann_json::nlohmann_json
                      PkgConfig::PULSE PkgConfig::WAYLAND PkgConfig::XCB PkgConfig::UDEV
                      PkgConfig::DBUS PkgConfig::LZ4 PkgConfig::CANBERRA PkgConfig::SQLITE

@@ -7,6 +7,7 @@
 #include "platform/linux/core/XdgPaths.h"
 #include "platform/linux/dbus/DBusService.h"
 #include "platform/linux/dbus/LaunchRequest.h"
+#include "settingswindow/SettingsWindow.h"
 #include "setupwindow/OnboardingController.h"
 #include "views/DashboardModel.h"
 #include "views/Glyphs.h"
@@ -56,10 +57,12 @@ public:
                 .putAway(); // a window that is closed by quitting was not left by its user
             bus_.stop([] { QCoreApplication::quit(); });
         });
+        offerSettings();
     }
 
     ~Program()
     {
+        settingsWindow_.reset();
         app_.terminate();
         platform_.flush();
         window_.clearIsland();
@@ -99,6 +102,22 @@ private:
         window_.setIsland(*model_, *dashboard_);
     }
 
+    void offerSettings()
+    {
+        AppDelegate &delegate = app_.appDelegate();
+        settingsWindow_.emplace(SettingsServices{
+            .platform = platform_.services(),
+            .settings = app_.settings(),
+            .hudManager = app_.hudManager(),
+            .messages = *delegate.messages(),
+            .weather = *delegate.weather(),
+            .claudeCode = *delegate.claudeCode(),
+            .version = QStringLiteral(QUILLMERE_VERSION),
+            .logFolder = xdg::stateHome() + QStringLiteral("/Logs/Quillmere"),
+            .localKeyWritten = [this] { app_.localKeyWritten(); },
+            .openAddress = [](const QUrl &address) { QDesktopServices::openUrl(address); }});
+    }
+
     static void connect(MediaModel &model, MediaPlayback &playback)
     {
         const auto on = [&model](auto signal, auto action) {
@@ -125,6 +144,7 @@ private:
     OnboardingController onboardingController_;
     std::optional<IslandModel> model_;
     std::optional<DashboardModel> dashboard_;
+    std::optional<SettingsWindow> settingsWindow_;
 };
 
 /// The exit status, or nothing when the program is to start with `uris`.

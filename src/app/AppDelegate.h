@@ -84,6 +84,7 @@ public:
     /// Null before launch.
     MediaPlayback *media() const { return media_.get(); }
     ClaudeCodeMonitor *claudeCode() const { return claudeCode_.get(); }
+    Messages *messages() const { return messages_.get(); }
     WeatherReports *weather() const { return weather_.get(); }
     Timers *timers() const { return timers_.get(); }
     GoogleAccount *google() const { return google_.get(); }

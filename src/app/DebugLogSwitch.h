@@ -14,9 +14,10 @@ class DebugLogSwitch
 public:
     DebugLogSwitch(UserDefaults &localDefaults, IslandDebugLogger &logger);
 
-private:
+    /// Takes the keys as they are now; needed only after writing them here.
     void apply();
 
+private:
     UserDefaults &localDefaults_;
     IslandDebugLogger &logger_;
     Task observer_;

@@ -26,6 +26,9 @@ public:
     /// Ends everything in order. Safe to call when nothing was launched, and twice.
     void terminate();
 
+    /// To be called after a local key was written by the program itself.
+    void localKeyWritten() { debugLogSwitch_.apply(); }
+
     SettingsStore &settings() { return settings_; }
     HUDManager &hudManager() { return hudManager_; }
     IslandDebugLogger &debugLogger() { return debugLogger_; }

@@ -15,9 +15,6 @@ struct AccentColor {
     bool operator==(const AccentColor &) const = default;
 };
 
-/// Which of light and dark the user prefers.
-enum class ColorScheme { NoPreference, Dark, Light };
-
 /// How the user wants programs to look and move. Answers at once from what is known; until the
 /// desktop has answered, and on desktops that tell nothing, these are the defaults. Main thread
 /// only.
@@ -29,7 +26,8 @@ public:
     virtual bool reducesMotion() const = 0;
     virtual bool highContrast() const = 0;
     virtual std::optional<AccentColor> accentColor() const = 0; ///< absent: the user chose none
-    virtual ColorScheme colorScheme() const { return ColorScheme::NoPreference; }
+    /// Dark windows or light ones; absent: the user leaves it to us.
+    virtual std::optional<bool> prefersDark() const = 0;
 
     /// Called after any of the values above has really changed.
     virtual Task onChanged(std::function<void()> listener) = 0;

@@ -34,6 +34,9 @@ public:
     /// Shows the item, or changes the one that is shown. Its callbacks never run from within.
     virtual void show(const StatusItemContent &content) = 0;
 
+    /// Whether a status bar has taken the item.
+    virtual bool isOnBar() const { return true; }
+
     /// Takes the item away; its callbacks run no more.
     virtual void remove() = 0;
 };

@@ -4,9 +4,7 @@
 #include "platform/Platform.h"
 #include "platform/RunLoop.h"
 #include "settings/SettingsStore.h"
-
-#include <QGuiApplication>
-#include <QPalette>
+#include "views/WindowTheme.h"
 
 #include <algorithm>
 
@@ -74,17 +72,7 @@ void SetupModel::setLaunchAtLogin(bool launch)
 
 bool SetupModel::isDark() const
 {
-    switch (platform_.appearance.colorScheme()) {
-    case ColorScheme::Dark:
-        return true;
-    case ColorScheme::Light:
-        return false;
-    case ColorScheme::NoPreference:
-        break;
-    }
-    const QPalette palette = QGuiApplication::palette();
-    return palette.color(QPalette::Window).lightness() <
-           palette.color(QPalette::WindowText).lightness();
+    return isWindowDark(platform_.appearance);
 }
 
 bool SetupModel::highContrast() const

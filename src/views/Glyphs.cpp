@@ -1,5 +1,6 @@
 #include "views/Glyphs.h"
 
+#include "platform/PageSymbols.h"
 #include "platform/Symbols.h"
 #include "weather/WeatherSymbols.h"
 
@@ -96,6 +97,22 @@ constexpr std::array glyphNames{
     GlyphName{symbols::stopwatch, QLatin1StringView{"status/stopwatch"}},
     GlyphName{symbols::stopCircle, QLatin1StringView{"status/stop-circle"}},
     GlyphName{symbols::xmarkCircle, QLatin1StringView{"status/xmark-circle"}},
+    GlyphName{symbols::pages::gearshape, QLatin1StringView{"categories/preferences-system"}},
+    GlyphName{symbols::pages::people, QLatin1StringView{"legacy/system-users"}},
+    GlyphName{symbols::pages::musicPlayer,
+              QLatin1StringView{"devices/multimedia-player-apple-ipod-touch"}},
+    GlyphName{symbols::pages::lock, QLatin1StringView{"status/changes-prevent"}},
+    GlyphName{symbols::pages::clipboard, QLatin1StringView{"actions/edit-paste"}},
+    GlyphName{symbols::pages::folder, QLatin1StringView{"actions/document-open"}},
+    GlyphName{symbols::pages::camera, QLatin1StringView{"devices/camera-photo"}},
+    GlyphName{symbols::pages::upAndDown, QLatin1StringView{"status/network-transmit-receive"}},
+    GlyphName{symbols::pages::processor, QLatin1StringView{"devices/processor"}},
+    GlyphName{symbols::pages::terminal, QLatin1StringView{"legacy/utilities-terminal"}},
+    GlyphName{symbols::pages::appGrid, QLatin1StringView{"actions/view-app-grid"}},
+    GlyphName{symbols::pages::note, QLatin1StringView{"legacy/text-editor"}},
+    GlyphName{symbols::pages::bookmark, QLatin1StringView{"places/user-bookmarks"}},
+    GlyphName{symbols::pages::checklist, QLatin1StringView{"status/task-due"}},
+    GlyphName{symbols::pages::infoCircle, QLatin1StringView{"actions/help-about"}},
     GlyphName{symbols::capsule, QLatin1StringView{"status/capsule"}},
 };
 

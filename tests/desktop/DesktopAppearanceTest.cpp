@@ -163,9 +163,10 @@ TEST_F(DesktopAppearanceTest, ReadsWhatDesktopsTell)
          true,
          {.highContrast = true}},
         {"accent", common, "accent-color", color(0, 0.5, 1), {.accent = AccentColor{0, 0.5, 1}}},
-        {"dark", common, "color-scheme", 1U, {.scheme = ColorScheme::Dark}},
-        {"light", common, "color-scheme", 2U, {.scheme = ColorScheme::Light}},
+        {"dark", common, "color-scheme", 1U, {.dark = true}},
+        {"light", common, "color-scheme", 2U, {.dark = false}},
         {"wrong scheme", common, "color-scheme", u"dark"_s, {}},
+        {"GNOME's word", gnome, "color-scheme", u"prefer-dark"_s, {.dark = true}},
         {"no accent", common, "accent-color", color(-1, -1, -1), {}},
         {"wrong accent", common, "accent-color", u"#3584e4"_s, {}},
     };
@@ -177,7 +178,7 @@ TEST_F(DesktopAppearanceTest, ReadsWhatDesktopsTell)
         EXPECT_TRUE(eventually([&] {
             return AppearanceValues{appearance.reducesMotion(), appearance.highContrast(),
                                     appearance.accentColor(),
-                                    appearance.colorScheme()} == each.expected;
+                                    appearance.prefersDark()} == each.expected;
         })) << each.what;
     }
 }

@@ -14,7 +14,7 @@ public:
     bool reducesMotion() const override { return reduced; }
     bool highContrast() const override { return contrast; }
     std::optional<AccentColor> accentColor() const override { return accent; }
-    ColorScheme colorScheme() const override { return scheme; }
+    std::optional<bool> prefersDark() const override { return dark; }
     Task onChanged(std::function<void()> listener) override
     {
         return listeners_.add(std::move(listener));
@@ -23,7 +23,7 @@ public:
     bool reduced = false;
     bool contrast = false;
     std::optional<AccentColor> accent;
-    ColorScheme scheme = ColorScheme::NoPreference;
+    std::optional<bool> dark;
 
 private:
     Listeners<> listeners_;

@@ -29,12 +29,18 @@ bool isBool(const QVariant &value, bool expected)
     return value.typeId() == QMetaType::Bool && value.toBool() == expected;
 }
 
-ColorScheme toScheme(const QVariant &value)
+/// The portal's number comes first; some desktops tell only their own word for it.
+std::optional<bool> toDark(const QVariant &number, const QVariant &word)
 {
-    const uint number = value.typeId() == QMetaType::UInt ? value.toUInt() : 0;
-    return number == 1   ? ColorScheme::Dark
-           : number == 2 ? ColorScheme::Light
-                         : ColorScheme::NoPreference;
+    if (number.typeId() == QMetaType::UInt && number.toUInt() == 1)
+        return true;
+    if (number.typeId() == QMetaType::UInt && number.toUInt() == 2)
+        return false;
+    if (word.toString() == QLatin1StringView("prefer-dark"))
+        return true;
+    if (word.toString() == QLatin1StringView("prefer-light"))
+        return false;
+    return std::nullopt;
 }
 
 std::optional<AccentColor> toColor(const QVariant &value)
@@ -66,10 +72,10 @@ AppearanceValues appearanceFrom(const SettingsByNamespace &portal, const KdeGlob
                            isBool(value(gnome, "enable-animations"), false) || !kde.isAnimated;
     result.highContrast =
         isOne(value(common, "contrast")) || isBool(value(gnomeAccess, "high-contrast"), true);
-    result.scheme = toScheme(value(common, "color-scheme"));
     result.accent = toColor(value(common, "accent-color"));
     if (!result.accent)
         result.accent = kde.accent;
+    result.dark = toDark(value(common, "color-scheme"), value(gnome, "color-scheme"));
     return result;
 }
 

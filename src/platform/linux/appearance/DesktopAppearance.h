@@ -13,7 +13,7 @@ struct AppearanceValues {
     bool reducesMotion = false;
     bool highContrast = false;
     std::optional<AccentColor> accent = std::nullopt;
-    ColorScheme scheme = ColorScheme::NoPreference;
+    std::optional<bool> dark = std::nullopt;
     bool operator==(const AppearanceValues &) const = default;
 };
 
@@ -35,7 +35,7 @@ public:
     bool reducesMotion() const override { return values_.reducesMotion; }
     bool highContrast() const override { return values_.highContrast; }
     std::optional<AccentColor> accentColor() const override { return values_.accent; }
-    ColorScheme colorScheme() const override { return values_.scheme; }
+    std::optional<bool> prefersDark() const override { return values_.dark; }
     Task onChanged(std::function<void()> listener) override;
 
 private:

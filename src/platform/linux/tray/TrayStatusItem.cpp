@@ -78,6 +78,7 @@ void TrayStatusItem::remove()
     if (!calls_)
         return;
     retry_.cancel();
+    isOnBar_ = false;
     calls_.reset();
     listenForWatcher(false);
     bus_->send(daemonCall(QLatin1StringView("ReleaseName"), {service_}));
@@ -122,6 +123,7 @@ void TrayStatusItem::registerItem(int attempt)
     message << service_;
     message.setAutoStartService(false);
     calls_->call(message, callLimit, [this, attempt](const BusReply &reply) {
+        isOnBar_ = static_cast<bool>(reply);
         if (!reply)
             registrationFailed(reply.error(), attempt);
     });
@@ -144,6 +146,7 @@ void TrayStatusItem::watcherChanged(const QString & /*name*/, const QString & /*
                                     const QString &newOwner)
 {
     retry_.cancel();
+    isOnBar_ = false;
     if (calls_ && !newOwner.isEmpty())
         registerItem(1);
 }

@@ -29,6 +29,7 @@ public:
     ~TrayStatusItem() override;
 
     void show(const StatusItemContent &content) override;
+    bool isOnBar() const override { return isOnBar_; }
     void remove() override;
 
 private:
@@ -46,6 +47,7 @@ private:
     TrayMenu menu_;
     std::optional<QDBusConnection> bus_;
     std::optional<BusCalls> calls_; ///< while shown
+    bool isOnBar_ = false;
     Task retry_;
 };
 

@@ -1,0 +1,40 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere.Settings
+
+T.Button {
+    id: control
+
+    implicitWidth: label.implicitWidth + 22
+    implicitHeight: 28
+    Accessible.name: text
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    background: Rectangle {
+        radius: 7
+        color: Theme.groove
+
+        Rectangle {
+            anchors.fill: parent
+            radius: 7
+            visible: control.down || control.hovered
+            color: control.down ? Theme.groove : Theme.hovered
+        }
+    }
+    contentItem: Item {
+        Text {
+            id: label
+
+            anchors.centerIn: parent
+            text: control.text
+            textFormat: Text.PlainText
+            font: Theme.font(12, Font.Medium)
+            color: Theme.text
+        }
+    }
+
+    FocusRing {
+        radius: 9
+    }
+}

@@ -1,0 +1,96 @@
+import QtQuick
+import Quillmere.Settings
+
+// Title and explanation at one side, the control at the other, or below where it is too wide.
+Item {
+    id: view
+
+    required property SettingRow row
+    property bool highlighted: false
+    readonly property bool stacked: control.width > (width - 28) * 0.62
+
+    implicitHeight: stacked ? texts.height + control.height + 27 : Math.max(46, texts.height + 18)
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: 3
+        radius: 8
+        color: Theme.accent
+        opacity: view.highlighted ? 0.16 : 0
+
+        Behavior on opacity {
+            NumberAnimation {
+                duration: Theme.duration * 2
+            }
+        }
+    }
+    Column {
+        id: texts
+
+        anchors.left: parent.left
+        anchors.leftMargin: 14
+        y: view.stacked ? 9 : (view.height - height) / 2
+        width: view.width - 28 - (view.stacked ? 0 : end.width + 14)
+        spacing: 1
+
+        Text {
+            width: parent.width
+            text: view.row.title
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            font: Theme.font(13, Font.Medium)
+            color: Theme.text
+            visible: text !== ""
+            horizontalAlignment: Text.AlignLeft
+            Accessible.ignored: view.row.control !== "note"
+        }
+        Text {
+            width: parent.width
+            text: view.row.explanation
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            font: Theme.font(12, Font.Normal)
+            color: Theme.muted
+            visible: text !== ""
+            horizontalAlignment: Text.AlignLeft
+            Accessible.ignored: view.row.control !== "note"
+        }
+        Text {
+            width: parent.width
+            text: view.row.warning
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            font: Theme.font(12, Font.Normal)
+            color: Theme.warning
+            visible: text !== ""
+            horizontalAlignment: Text.AlignLeft
+        }
+    }
+    Item {
+        id: end
+
+        anchors.right: parent.right
+        anchors.rightMargin: 14
+        y: view.stacked ? view.height - height - 10 : (view.height - height) / 2
+        width: Math.max(control.width, button.visible ? button.width : 0)
+        height: Math.max(control.height, button.visible ? button.height : 0)
+
+        ControlLoader {
+            id: control
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            row: view.row
+        }
+        PushButton {
+            id: button
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            visible: view.row.buttonTitle !== ""
+            text: view.row.buttonTitle
+            Accessible.description: view.row.title
+            onClicked: view.row.activate()
+        }
+    }
+}

@@ -1,0 +1,52 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere
+import Quillmere.Settings
+
+T.TextField {
+    id: field
+
+    readonly property bool visualFocus: activeFocus
+
+    implicitHeight: 28
+    leftPadding: 29
+    rightPadding: 9
+    verticalAlignment: TextInput.AlignVCenter
+    font: Theme.font(13, Font.Normal)
+    color: Theme.text
+    placeholderText: qsTr("Search settings")
+    selectionColor: Theme.accent
+    selectedTextColor: "white"
+    selectByMouse: true
+    Accessible.name: placeholderText
+    Accessible.searchEdit: true
+
+    background: Rectangle {
+        radius: 7
+        color: Theme.line
+
+        Glyph {
+            x: field.mirrored ? parent.width - width - 9 : 9
+            anchors.verticalCenter: parent.verticalCenter
+            width: 14
+            height: 14
+            symbol: "magnifyingglass"
+            color: Theme.muted
+        }
+        Text {
+            anchors.fill: parent
+            anchors.leftMargin: 29
+            verticalAlignment: Text.AlignVCenter
+            horizontalAlignment: Text.AlignLeft
+            text: field.placeholderText
+            font: field.font
+            color: Theme.muted
+            visible: field.text === "" && field.preeditText === ""
+            Accessible.ignored: true
+        }
+    }
+
+    FocusRing {
+        radius: 9
+    }
+}

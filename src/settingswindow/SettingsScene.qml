@@ -1,0 +1,75 @@
+import QtQuick
+import Quillmere.Settings
+
+// The whole content of the window.
+FocusScope {
+    id: scene
+
+    required property SettingsModel model
+    readonly property color background: Theme.background
+
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    Binding {
+        target: Theme
+        property: "dark"
+        value: scene.model.dark
+    }
+    Binding {
+        target: Theme
+        property: "accent"
+        value: scene.model.accent
+    }
+    Binding {
+        target: Theme
+        property: "reducedMotion"
+        value: scene.model.reducedMotion
+    }
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.background
+    }
+    Sidebar {
+        id: sidebar
+
+        anchors.left: parent.left
+        width: 200
+        height: parent.height
+        model: scene.model
+    }
+    PageView {
+        id: page
+
+        anchors.left: sidebar.right
+        anchors.right: parent.right
+        height: parent.height
+        model: scene.model
+    }
+    Connections {
+        target: scene.model
+
+        function onPageChanged() {
+            page.highlightedKey = "";
+            page.contentY = 0;
+        }
+        function onRevealed(key) {
+            page.highlightedKey = key;
+        }
+    }
+    Shortcut {
+        sequences: [StandardKey.Find]
+        onActivated: sidebar.search()
+    }
+    Shortcut {
+        sequences: [StandardKey.Close, "Ctrl+W"]
+        onActivated: scene.Window.window.close()
+    }
+    Shortcut {
+        sequence: "Esc"
+        onActivated: {
+            if (!sidebar.clear())
+                scene.Window.window.close();
+        }
+    }
+}

@@ -1,0 +1,102 @@
+import QtQuick
+import Quillmere.Settings
+
+// Search above all pages; while something is searched for, what was found instead of them.
+Rectangle {
+    id: sidebar
+
+    required property SettingsModel model
+    readonly property bool searching: model.query.trim() !== ""
+
+    function search() {
+        field.forceActiveFocus(Qt.ShortcutFocusReason);
+        field.selectAll();
+    }
+
+    function clear(): bool {
+        const wasSearching = field.text !== "";
+        field.clear();
+        return wasSearching;
+    }
+
+    color: Theme.sidebar
+
+    SearchField {
+        id: field
+
+        x: 10
+        y: 14
+        width: parent.width - 20
+        onTextChanged: sidebar.model.query = text
+        onAccepted: {
+            if (sidebar.searching && list.count > 0)
+                sidebar.model.reveal(sidebar.model.results[0]);
+        }
+        Keys.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
+    }
+    ListView {
+        id: list
+
+        anchors.top: field.bottom
+        anchors.topMargin: 8
+        anchors.bottom: parent.bottom
+        x: 0
+        width: parent.width
+        topMargin: 3
+        bottomMargin: 10
+        clip: true
+        spacing: 0
+        boundsBehavior: Flickable.StopAtBounds
+        activeFocusOnTab: true
+        keyNavigationEnabled: true
+        highlightMoveDuration: 0
+        model: sidebar.searching ? sidebar.model.results : sidebar.model.pages
+        currentIndex: sidebar.searching ? 0 : sidebar.model.page
+        Accessible.role: Accessible.List
+        Accessible.name: sidebar.searching ? qsTr("Results") : qsTr("Pages")
+        Keys.onReturnPressed: open(currentIndex)
+        Keys.onSpacePressed: open(currentIndex)
+        Keys.onUpPressed: move(-1)
+        Keys.onDownPressed: move(1)
+
+        function move(by: int) {
+            const next = currentIndex + by;
+            if (next < 0)
+                return field.forceActiveFocus(Qt.BacktabFocusReason);
+            if (next >= count)
+                return;
+            if (sidebar.searching)
+                currentIndex = next;
+            else
+                sidebar.model.page = next;
+            positionViewAtIndex(next, ListView.Contain);
+        }
+
+        function open(index: int) {
+            if (sidebar.searching)
+                sidebar.model.reveal(sidebar.model.results[index]);
+            else
+                sidebar.model.page = index;
+        }
+
+        delegate: SidebarRow {
+            required property int index
+
+            x: 10
+            width: list.width - 20
+            chosen: sidebar.searching ? false : index === sidebar.model.page
+            focused: list.activeFocus && index === list.currentIndex
+            onOpened: list.open(index)
+        }
+    }
+    Text {
+        anchors.top: list.top
+        anchors.topMargin: 14
+        width: parent.width
+        horizontalAlignment: Text.AlignHCenter
+        text: qsTr("Nothing found")
+        visible: sidebar.searching && list.count === 0
+        font: Theme.font(13, Font.Normal)
+        color: Theme.muted
+    }
+}

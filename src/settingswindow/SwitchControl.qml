@@ -1,0 +1,53 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere.Settings
+
+T.Switch {
+    id: control
+
+    required property SettingRow row
+
+    implicitWidth: 36
+    implicitHeight: 21
+    checked: row.value === true
+    Accessible.name: row.title
+    Accessible.description: row.explanation
+    onCheckedChanged: row.change(checked)
+
+    indicator: Rectangle {
+        anchors.fill: parent
+        radius: height / 2
+        color: control.checked ? Theme.on : Theme.groove
+        border.width: control.checked ? 0 : 1
+        border.color: Theme.line
+
+        Behavior on color {
+            ColorAnimation {
+                duration: Theme.duration
+            }
+        }
+
+        Rectangle {
+            readonly property real travel: parent.width - width - 4
+
+            x: 2 + (control.mirrored ? 1 - control.visualPosition : control.visualPosition) * travel
+            y: 2
+            width: 17
+            height: 17
+            radius: 8.5
+            color: "white"
+            border.width: 0.5
+            border.color: Qt.rgba(0, 0, 0, 0.15)
+
+            Behavior on x {
+                NumberAnimation {
+                    duration: Theme.duration
+                }
+            }
+        }
+    }
+
+    FocusRing {
+        radius: height / 2
+    }
+}

@@ -1,0 +1,186 @@
+"""The settings window as a screen reader and a keyboard find it, and what it does to the files."""
+
+import json
+import re
+import time
+import unittest
+from pathlib import Path
+
+from case import DesktopTest
+from desktop import wait_until
+from reader import Reader
+
+TITLE = "Quillmere Settings"
+DOC = Path(__file__).resolve().parent.parent.parent / "docs" / "settings.md"
+LOCAL = {"cloudFolder", "debugLogEnabled"}
+ABSENT = {
+    "Focus", "Lock Screen", "Clipboard", "Camera Mirror", "Network Speed", "App Shortcuts", "Quick Notes",
+    "Bookmarks", "Reminders",
+}  # fmt: skip
+
+
+def documented():
+    """The keys of all settings, and those that are said to be on no page."""
+    text = DOC.read_text()
+    keys = set(re.findall(r"^\| `(\w+)` \| .* \| .* \| S? ?\| .* \|$", text, re.M))
+    hidden = set(re.findall(r"`(\w+)`", text.partition("### On no page")[2].partition("\n## ")[0]))
+    return keys, hidden
+
+
+class SettingsTest(DesktopTest):
+    def setUp(self):
+        super().setUp()
+        self.reader = Reader(self.desktop)
+
+    def open_window(self, defaults=None):
+        self.island = self.start_island(defaults or {})
+        self.island.ctl("action", "settings")
+        self.wait_for_window()
+
+    def wait_for_window(self):
+        wait_until(lambda: len(self.tree()) > 20, what="the window")
+        window = self.windows()[0]
+        self.desktop.run("xdotool", "windowfocus", "--sync", window)
+
+    def windows(self):
+        return self.desktop.run("xdotool", "search", "--onlyvisible", "--name", TITLE, check=False).split()
+
+    def tree(self):
+        return self.reader.tree(TITLE)
+
+    def item(self, name, role=None):
+        found = [i for i in self.tree() if i["name"] == name and role in (None, i["role"])]
+        self.assertTrue(found, f"no {role or 'item'} {name}")
+        return found[0]
+
+    def open_page(self, name):
+        self.reader.press(TITLE, name, "list item")
+        return wait_until(lambda: self.heading() == name and self.tree(), what=f"the page {name}")
+
+    def heading(self):
+        return next((i["name"] for i in self.tree() if i["role"] == "heading"), None)
+
+    def type(self, *keys):
+        self.desktop.run("xdotool", "key", *keys)
+
+    def stored(self):
+        values = {}
+        for name in ("defaults.json", "local.json"):
+            path = self.island.config / name
+            values |= json.loads(path.read_text()) if path.exists() else {}
+        return values
+
+    def use(self, item):
+        """Moves a control away from where it is; returns whether it was one."""
+        role, name = item["role"], item["name"]
+        if role in ("check box", "toggle button", "switch"):
+            self.reader.press(TITLE, name, role)
+        elif role == "radio button":
+            if "checked" in item["states"]:
+                return False
+            self.reader.press(TITLE, name, role)
+        elif role in ("slider", "spin button"):
+            low, high = item["range"]
+            self.reader.set_value(TITLE, name, low if item["value"] == high else high)
+        elif role in ("text", "entry") and "editable" in item["states"] and name != "Search settings":
+            self.reader.focus(TITLE, name, role)
+            self.desktop.run("xdotool", "type", "abc")
+            self.type("Return")
+        else:
+            return False
+        return True
+
+    def use_all(self, tree):
+        """Uses every control of a page once, of a picker the first that is not chosen."""
+        used, picker, pickers = 0, None, set()
+        for item in tree:
+            if item["role"] in ("panel", "grouping"):
+                picker = item["name"]
+            if item["role"] == "radio button" and (picker in pickers or "checked" in item["states"]):
+                continue
+            if self.use(item):
+                used += 1
+                if item["role"] == "radio button":
+                    pickers.add(picker)
+        return used
+
+    def test_every_control_changes_its_key_and_only_that(self):
+        self.open_window()
+        pages = [i["name"] for i in self.tree() if i["role"] == "list item"]
+        self.assertEqual(len(pages), 26)
+        changed = set()
+        for page in pages:
+            with self.subTest(page=page):
+                before = self.stored()
+                tree = self.open_page(page)
+                used = self.use_all(tree)
+                self.assertEqual(used == 0, page in ABSENT)
+
+                def news(before=before):
+                    return {key for key, value in self.stored().items() if before.get(key) != value}
+
+                wait_until(lambda: len(news()) >= used, 5, f"{used} keys of {page}: {sorted(news())}")
+                self.assertEqual(len(news()), used, sorted(news()))
+                changed |= news()
+        keys, hidden = documented()
+        self.assertEqual(changed - LOCAL, keys - hidden)
+        self.assertLessEqual(LOCAL, changed)
+        self.assertTrue((self.desktop.dir / "config/autostart/com.quillmere.Quillmere.desktop").exists())
+        self.assertTrue((self.desktop.dir / "state/Logs/Quillmere/debug.log").exists())
+
+    def test_a_page_goes_back_to_its_defaults(self):
+        self.open_window({"showBatteryHUD": False, "lowBatteryThreshold": 33.0, "showVolumeHUD": False})
+        self.open_page("Battery")
+        self.assertEqual(self.item("Limit", "slider")["value"], 33)
+        self.reader.press(TITLE, "Reset this page", "push button")
+        wait_until(lambda: self.item("Limit", "slider")["value"] == 10, what="the slider to go back")
+        wait_until(lambda: self.stored().get("showBatteryHUD") is True, what="the file")
+        self.assertIs(self.stored()["showVolumeHUD"], False, "of another page")
+
+    def test_what_happens_elsewhere_shows_at_once_and_is_obeyed(self):
+        self.open_window()
+        self.island.wait_out_mute()
+        self.open_page("Sound")
+        self.reader.press(TITLE, "Show the volume", None)
+        wait_until(lambda: self.stored().get("showVolumeHUD") is False, what="the file")
+        with self.desktop.sound_console() as console:
+            console.set_volume(31)
+            time.sleep(0.5)
+            self.assertEqual(self.island.hud(), {})
+            self.island.write_defaults({"showVolumeHUD": True, "volumeHUDDuration": 400.0})
+            wait_until(lambda: "checked" in self.item("Show the volume")["states"], what="the switch")
+            console.set_volume(42)
+            self.island.wait_for_hud(0.42)
+        self.assertEqual(self.stored()["volumeHUDDuration"], 400, "what is beyond a slider's end stays")
+
+    def test_by_keyboard_alone(self):
+        self.open_window()
+        self.type("ctrl+f")
+        self.desktop.run("xdotool", "type", "fahrenheit")
+        wait_until(lambda: len([i for i in self.tree() if i["role"] == "list item"]) == 1, what="one result")
+        self.type("Return")
+        wait_until(lambda: self.heading() == "Weather", what="the page")
+        self.type("Tab", "Tab", "Tab", "space")
+        wait_until(lambda: self.stored().get("weatherUseFahrenheit"), what="the switch")
+        self.type("Escape")  # what was searched for
+        wait_until(lambda: len([i for i in self.tree() if i["role"] == "list item"]) == 26, what="all pages")
+        self.type("Escape")
+        wait_until(lambda: not self.windows(), what="the window to close")
+
+    def test_it_opens_once_and_again(self):
+        self.open_window()
+        for closing in ("ctrl+w", "Escape"):
+            window = self.windows()
+            self.island.ctl("action", "settings")
+            time.sleep(0.3)
+            self.assertEqual(self.windows(), window, "the same window")
+            self.desktop.run("xdotool", "windowfocus", "--sync", window[0])
+            self.type(closing)
+            wait_until(lambda: not self.windows(), what="the window to close")
+            self.island.ctl("action", "settings")
+            wait_until(self.windows, what="the window again")
+            self.wait_for_window()
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
