@@ -1,3 +1,4 @@
+#include "app/GoogleAccount.h"
 #include "app/MediaPlayback.h"
 #include "app/QuillmereApp.h"
 #include "platform/ApplicationLauncher.h"
@@ -11,6 +12,7 @@
 #include "setupwindow/OnboardingController.h"
 #include "views/DashboardModel.h"
 #include "views/Glyphs.h"
+#include "views/GoogleAccountModel.h"
 #include "views/IslandModel.h"
 #include "views/IslandWindow.h"
 #include "views/MediaModel.h"
@@ -53,8 +55,8 @@ public:
         app_.appDelegate().onShowOnboarding = [this] { onboardingController_.show(); };
         app_.appDelegate().onIslandCreated = [this](Island island) { show(island); };
         app_.launch([this] {
-            onboardingController_
-                .putAway(); // a window that is closed by quitting was not left by its user
+            // A window that is closed by quitting was not left by its user.
+            onboardingController_.putAway();
             bus_.stop([] { QCoreApplication::quit(); });
         });
         offerSettings();
@@ -63,6 +65,7 @@ public:
     ~Program()
     {
         settingsWindow_.reset();
+        googleAccount_.reset();
         app_.terminate();
         platform_.flush();
         window_.clearIsland();
@@ -105,17 +108,21 @@ private:
     void offerSettings()
     {
         AppDelegate &delegate = app_.appDelegate();
-        settingsWindow_.emplace(SettingsServices{
-            .platform = platform_.services(),
-            .settings = app_.settings(),
-            .hudManager = app_.hudManager(),
-            .messages = *delegate.messages(),
-            .weather = *delegate.weather(),
-            .claudeCode = *delegate.claudeCode(),
-            .version = QStringLiteral(QUILLMERE_VERSION),
-            .logFolder = xdg::stateHome() + QStringLiteral("/Logs/Quillmere"),
-            .localKeyWritten = [this] { app_.localKeyWritten(); },
-            .openAddress = [](const QUrl &address) { QDesktopServices::openUrl(address); }});
+        googleAccount_.emplace(delegate.google()->authManager(), app_.settings());
+        const auto openAddress = [](const QUrl &address) { QDesktopServices::openUrl(address); };
+        QObject::connect(&*googleAccount_, &GoogleAccountModel::linkActivated, openAddress);
+        settingsWindow_.emplace(
+            SettingsServices{.platform = platform_.services(),
+                             .settings = app_.settings(),
+                             .hudManager = app_.hudManager(),
+                             .messages = *delegate.messages(),
+                             .weather = *delegate.weather(),
+                             .claudeCode = *delegate.claudeCode(),
+                             .version = QStringLiteral(QUILLMERE_VERSION),
+                             .logFolder = xdg::stateHome() + QStringLiteral("/Logs/Quillmere"),
+                             .localKeyWritten = [this] { app_.localKeyWritten(); },
+                             .openAddress = openAddress,
+                             .googleAccount = &*googleAccount_});
     }
 
     static void connect(MediaModel &model, MediaPlayback &playback)
@@ -144,6 +151,7 @@ private:
     OnboardingController onboardingController_;
     std::optional<IslandModel> model_;
     std::optional<DashboardModel> dashboard_;
+    std::optional<GoogleAccountModel> googleAccount_;
     std::optional<SettingsWindow> settingsWindow_;
 };
 
