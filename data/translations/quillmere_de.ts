@@ -71,6 +71,24 @@
     </message>
 </context>
 <context>
+    <name>BrowserAuthSession</name>
+    <message>
+        <source>The browser would not find its way back: %1</source>
+        <translation>Der Browser fände nicht zurück: %1</translation>
+    </message>
+    <message>
+        <source>There is no browser to sign in with.</source>
+        <translation>Es gibt keinen Browser zum Anmelden.</translation>
+    </message>
+</context>
+<context>
+    <name>CalendarEvents</name>
+    <message>
+        <source>Upcoming event</source>
+        <translation>Anstehender Termin</translation>
+    </message>
+</context>
+<context>
     <name>ClockPanel</name>
     <message>
         <source>Choose where sound plays</source>
@@ -145,6 +163,95 @@
     </message>
 </context>
 <context>
+    <name>FocusAlerts</name>
+    <message>
+        <source>Do Not Disturb</source>
+        <translation>Bitte nicht stören</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>GoogleAccountBox</name>
+    <message>
+        <source>Signed in as %1</source>
+        <translation>Angemeldet als %1</translation>
+    </message>
+    <message>
+        <source>Not signed in</source>
+        <translation>Nicht angemeldet</translation>
+    </message>
+    <message>
+        <source>Sign in with the browser that has opened…</source>
+        <translation>Melden Sie sich im geöffneten Browser an …</translation>
+    </message>
+    <message>
+        <source>Sign in with Google</source>
+        <translation>Mit Google anmelden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Sign out</source>
+        <translation>Abmelden</translation>
+    </message>
+    <message>
+        <source>Hide the client ID</source>
+        <translation>Client-ID ausblenden</translation>
+    </message>
+    <message>
+        <source>Use another client ID</source>
+        <translation>Andere Client-ID verwenden</translation>
+    </message>
+    <message>
+        <source>Google wants to know which program asks. Make a client ID of your own, in a minute and for nothing:</source>
+        <translation>Google möchte wissen, welches Programm fragt. Legen Sie eine eigene Client-ID an, in einer Minute und kostenlos:</translation>
+    </message>
+    <message>
+        <source>Google OAuth client ID</source>
+        <translation>Google-OAuth-Client-ID</translation>
+    </message>
+</context>
+<context>
+    <name>GoogleSignIn</name>
+    <message>
+        <source>Paste your Google OAuth client ID first.</source>
+        <translation>Fügen Sie zuerst Ihre Google-OAuth-Client-ID ein.</translation>
+    </message>
+    <message>
+        <source>That does not look like a client ID of a Google installed-app client (…%1).</source>
+        <translation>Das sieht nicht wie die Client-ID einer bei Google angelegten installierten App aus (…%1).</translation>
+    </message>
+    <message>
+        <source>Sign-in was cancelled.</source>
+        <translation>Die Anmeldung wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Google returned no refresh token. Remove Quillmere&apos;s access on your Google account&apos;s permissions page (%1), then sign in again.</source>
+        <translation>Google hat kein Aktualisierungstoken geliefert. Entfernen Sie den Zugriff von Quillmere auf der Berechtigungsseite Ihres Google-Kontos (%1) und melden Sie sich dann erneut an.</translation>
+    </message>
+    <message>
+        <source>Not signed in to Google.</source>
+        <translation>Nicht bei Google angemeldet.</translation>
+    </message>
+    <message>
+        <source>Your keyring is locked. Unlock it and sign in again.</source>
+        <translation>Ihr Schlüsselbund ist gesperrt. Entsperren Sie ihn und melden Sie sich erneut an.</translation>
+    </message>
+    <message>
+        <source>There is no keyring to keep the sign-in in. It needs a running one, such as GNOME Keyring or KWallet, and is kept nowhere else.</source>
+        <translation>Es gibt keinen Schlüsselbund für die Anmeldung. Nötig ist ein laufender wie GNOME-Schlüsselbund oder KWallet; anderswo wird sie nicht aufbewahrt.</translation>
+    </message>
+</context>
+<context>
     <name>HUD</name>
     <message>
         <source>%1%</source>
@@ -202,20 +309,28 @@
         <translation>Angehalten: %1</translation>
     </message>
     <message>
-        <source>Favorite</source>
-        <translation>Favorit</translation>
-    </message>
-    <message>
-        <source>Shuffle</source>
-        <translation>Zufallswiedergabe</translation>
-    </message>
-    <message>
-        <source>Repeat</source>
-        <translation>Wiederholen</translation>
-    </message>
-    <message>
         <source>Copy title and artist</source>
         <translation>Titel und Interpret kopieren</translation>
+    </message>
+    <message>
+        <source>Repeat, all</source>
+        <translation>Wiederholen, alle</translation>
+    </message>
+    <message>
+        <source>Repeat, this track</source>
+        <translation>Wiederholen, dieser Titel</translation>
+    </message>
+    <message>
+        <source>Repeat, off</source>
+        <translation>Wiederholen, aus</translation>
+    </message>
+    <message>
+        <source>Shuffle, on</source>
+        <translation>Zufall, ein</translation>
+    </message>
+    <message>
+        <source>Shuffle, off</source>
+        <translation>Zufall, aus</translation>
     </message>
 </context>
 <context>
@@ -1056,6 +1171,57 @@
         <source>dddd, d MMMM</source>
         <extracomment>A date without a year, as QLocale writes it: Saturday, 21 November</extracomment>
         <translation>dddd, d. MMMM</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::GoogleAccountModel</name>
+    <message>
+        <source>Make a project; any name will do.</source>
+        <translation>Legen Sie ein Projekt an; der Name ist gleichgültig.</translation>
+    </message>
+    <message>
+        <source>New project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
+        <source>Switch on the Gmail API in it.</source>
+        <translation>Aktivieren Sie darin die Gmail-API.</translation>
+    </message>
+    <message>
+        <source>Gmail API</source>
+        <translation>Gmail-API</translation>
+    </message>
+    <message>
+        <source>And the Google Calendar API.</source>
+        <translation>Und die Google-Kalender-API.</translation>
+    </message>
+    <message>
+        <source>Calendar API</source>
+        <translation>Kalender-API</translation>
+    </message>
+    <message>
+        <source>Fill in the consent screen: audience External, and yourself as a test user.</source>
+        <translation>Füllen Sie den Zustimmungsbildschirm aus: Zielgruppe „Extern“, und Sie selbst als Testnutzer.</translation>
+    </message>
+    <message>
+        <source>Consent screen</source>
+        <translation>Zustimmung</translation>
+    </message>
+    <message>
+        <source>Make a client of the type iOS, the only one that needs no secret, with the bundle ID com.quillmere.Quillmere. Paste its client ID below.</source>
+        <translation>Legen Sie einen Client vom Typ iOS an, dem einzigen ohne Geheimnis, mit der Bundle-ID com.quillmere.Quillmere. Fügen Sie dessen Client-ID unten ein.</translation>
+    </message>
+    <message>
+        <source>New client</source>
+        <translation>Neuer Client</translation>
+    </message>
+    <message>
+        <source>Reading mail is what Google calls a restricted scope. For a project of your own it warns once that the app is not verified. While the project is being tested it signs you out every seven days; published, it does not. To let more than 100 people use one client ID, Google asks for a verification and a security assessment each year, which is why everyone brings their own.</source>
+        <translation>E-Mails zu lesen ist für Google ein eingeschränkter Bereich. Bei einem eigenen Projekt warnt es einmal, dass die App nicht bestätigt ist. Solange das Projekt im Test ist, endet die Anmeldung alle sieben Tage; nach der Veröffentlichung nicht mehr. Damit mehr als 100 Personen eine Client-ID nutzen dürfen, verlangt Google eine Überprüfung und jedes Jahr eine Sicherheitsprüfung; deshalb bringt jeder seine eigene mit.</translation>
+    </message>
+    <message>
+        <source>The keyring is locked and still holds the sign-in. Unlock it and sign out again, or remove Quillmere&apos;s access on your Google account&apos;s page.</source>
+        <translation>Der Schlüsselbund ist gesperrt und enthält die Anmeldung noch. Entsperren Sie ihn und melden Sie sich erneut ab, oder entfernen Sie den Zugriff von Quillmere auf der Seite Ihres Google-Kontos.</translation>
     </message>
 </context>
 <context>

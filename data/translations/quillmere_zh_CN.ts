@@ -71,6 +71,24 @@
     </message>
 </context>
 <context>
+    <name>BrowserAuthSession</name>
+    <message>
+        <source>The browser would not find its way back: %1</source>
+        <translation>浏览器将无法返回：%1</translation>
+    </message>
+    <message>
+        <source>There is no browser to sign in with.</source>
+        <translation>没有可用于登录的浏览器。</translation>
+    </message>
+</context>
+<context>
+    <name>CalendarEvents</name>
+    <message>
+        <source>Upcoming event</source>
+        <translation>即将开始的活动</translation>
+    </message>
+</context>
+<context>
     <name>ClockPanel</name>
     <message>
         <source>Choose where sound plays</source>
@@ -144,6 +162,95 @@
     </message>
 </context>
 <context>
+    <name>FocusAlerts</name>
+    <message>
+        <source>Do Not Disturb</source>
+        <translation>勿扰</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+</context>
+<context>
+    <name>GoogleAccountBox</name>
+    <message>
+        <source>Signed in as %1</source>
+        <translation>已登录：%1</translation>
+    </message>
+    <message>
+        <source>Not signed in</source>
+        <translation>未登录</translation>
+    </message>
+    <message>
+        <source>Sign in with the browser that has opened…</source>
+        <translation>请在打开的浏览器中登录…</translation>
+    </message>
+    <message>
+        <source>Sign in with Google</source>
+        <translation>使用 Google 登录</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Sign out</source>
+        <translation>退出登录</translation>
+    </message>
+    <message>
+        <source>Hide the client ID</source>
+        <translation>隐藏客户端 ID</translation>
+    </message>
+    <message>
+        <source>Use another client ID</source>
+        <translation>使用其他客户端 ID</translation>
+    </message>
+    <message>
+        <source>Google wants to know which program asks. Make a client ID of your own, in a minute and for nothing:</source>
+        <translation>Google 需要知道是哪个程序在请求。只需一分钟即可免费创建您自己的客户端 ID：</translation>
+    </message>
+    <message>
+        <source>Google OAuth client ID</source>
+        <translation>Google OAuth 客户端 ID</translation>
+    </message>
+</context>
+<context>
+    <name>GoogleSignIn</name>
+    <message>
+        <source>Paste your Google OAuth client ID first.</source>
+        <translation>请先粘贴您的 Google OAuth 客户端 ID。</translation>
+    </message>
+    <message>
+        <source>That does not look like a client ID of a Google installed-app client (…%1).</source>
+        <translation>这不像是 Google 已安装应用的客户端 ID（…%1）。</translation>
+    </message>
+    <message>
+        <source>Sign-in was cancelled.</source>
+        <translation>登录已取消。</translation>
+    </message>
+    <message>
+        <source>Google returned no refresh token. Remove Quillmere&apos;s access on your Google account&apos;s permissions page (%1), then sign in again.</source>
+        <translation>Google 没有返回刷新令牌。请在您的 Google 账号权限页面（%1）移除 Quillmere 的访问权限，然后重新登录。</translation>
+    </message>
+    <message>
+        <source>Not signed in to Google.</source>
+        <translation>未登录 Google。</translation>
+    </message>
+    <message>
+        <source>Your keyring is locked. Unlock it and sign in again.</source>
+        <translation>您的密钥环已锁定。请解锁后重新登录。</translation>
+    </message>
+    <message>
+        <source>There is no keyring to keep the sign-in in. It needs a running one, such as GNOME Keyring or KWallet, and is kept nowhere else.</source>
+        <translation>没有可保存登录信息的密钥环。需要正在运行的密钥环（例如 GNOME 密钥环或 KWallet），登录信息不会保存在其他地方。</translation>
+    </message>
+</context>
+<context>
     <name>HUD</name>
     <message>
         <source>%1%</source>
@@ -201,20 +308,28 @@
         <translation>已暂停：%1</translation>
     </message>
     <message>
-        <source>Favorite</source>
-        <translation>收藏</translation>
-    </message>
-    <message>
-        <source>Shuffle</source>
-        <translation>随机播放</translation>
-    </message>
-    <message>
-        <source>Repeat</source>
-        <translation>重复播放</translation>
-    </message>
-    <message>
         <source>Copy title and artist</source>
         <translation>复制曲名和艺人</translation>
+    </message>
+    <message>
+        <source>Repeat, all</source>
+        <translation>重复，全部</translation>
+    </message>
+    <message>
+        <source>Repeat, this track</source>
+        <translation>重复，当前曲目</translation>
+    </message>
+    <message>
+        <source>Repeat, off</source>
+        <translation>重复，关</translation>
+    </message>
+    <message>
+        <source>Shuffle, on</source>
+        <translation>随机播放，开</translation>
+    </message>
+    <message>
+        <source>Shuffle, off</source>
+        <translation>随机播放，关</translation>
     </message>
 </context>
 <context>
@@ -1055,6 +1170,57 @@
         <source>dddd, d MMMM</source>
         <extracomment>A date without a year, as QLocale writes it: Saturday, 21 November</extracomment>
         <translation>M月d日 dddd</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere::GoogleAccountModel</name>
+    <message>
+        <source>Make a project; any name will do.</source>
+        <translation>创建一个项目，名称随意。</translation>
+    </message>
+    <message>
+        <source>New project</source>
+        <translation>新建项目</translation>
+    </message>
+    <message>
+        <source>Switch on the Gmail API in it.</source>
+        <translation>在其中启用 Gmail API。</translation>
+    </message>
+    <message>
+        <source>Gmail API</source>
+        <translation>Gmail API</translation>
+    </message>
+    <message>
+        <source>And the Google Calendar API.</source>
+        <translation>再启用 Google 日历 API。</translation>
+    </message>
+    <message>
+        <source>Calendar API</source>
+        <translation>日历 API</translation>
+    </message>
+    <message>
+        <source>Fill in the consent screen: audience External, and yourself as a test user.</source>
+        <translation>填写同意屏幕：受众选择“外部”，并将您自己添加为测试用户。</translation>
+    </message>
+    <message>
+        <source>Consent screen</source>
+        <translation>同意屏幕</translation>
+    </message>
+    <message>
+        <source>Make a client of the type iOS, the only one that needs no secret, with the bundle ID com.quillmere.Quillmere. Paste its client ID below.</source>
+        <translation>创建一个 iOS 类型的客户端（唯一不需要密钥的类型），软件包 ID 为 com.quillmere.Quillmere。将其客户端 ID 粘贴到下方。</translation>
+    </message>
+    <message>
+        <source>New client</source>
+        <translation>新建客户端</translation>
+    </message>
+    <message>
+        <source>Reading mail is what Google calls a restricted scope. For a project of your own it warns once that the app is not verified. While the project is being tested it signs you out every seven days; published, it does not. To let more than 100 people use one client ID, Google asks for a verification and a security assessment each year, which is why everyone brings their own.</source>
+        <translation>读取邮件属于 Google 所说的受限范围。对于您自己的项目，它会提示一次该应用未经验证。项目处于测试状态时，每七天会退出登录；发布后则不会。若要让 100 人以上使用同一个客户端 ID，Google 要求进行验证以及每年一次的安全评估，因此每个人都使用自己的客户端 ID。</translation>
+    </message>
+    <message>
+        <source>The keyring is locked and still holds the sign-in. Unlock it and sign out again, or remove Quillmere&apos;s access on your Google account&apos;s page.</source>
+        <translation>密钥环已锁定，仍保存着登录信息。请解锁后再次退出登录，或在您的 Google 账号页面移除 Quillmere 的访问权限。</translation>
     </message>
 </context>
 <context>

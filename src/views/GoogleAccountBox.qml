@@ -179,7 +179,7 @@ Item {
                         id: number
 
                         width: 20
-                        text: qsTr("%1.").arg(step.index + 1)
+                        text: (step.index + 1) + "."
                         color: box.muted
                     }
                     Words {

