@@ -1289,7 +1289,7 @@
     <name>quillmere::SystemModel</name>
     <message>
         <source>%1 of %2 GB</source>
-        <translation>%1 von %2 GB</translation>
+        <translation>%1 / %2 GB</translation>
     </message>
     <message>
         <source>unknown</source>
