@@ -78,14 +78,14 @@
     </message>
     <message>
         <source>There is no browser to sign in with.</source>
-        <translation>Es gibt keinen Browser zum Anmelden.</translation>
+        <translation>Es gibt keinen Browser für die Anmeldung.</translation>
     </message>
 </context>
 <context>
     <name>CalendarEvents</name>
     <message>
         <source>Upcoming event</source>
-        <translation>Anstehender Termin</translation>
+        <translation>Bevorstehender Termin</translation>
     </message>
 </context>
 <context>
@@ -166,7 +166,7 @@
     <name>FocusAlerts</name>
     <message>
         <source>Do Not Disturb</source>
-        <translation>Bitte nicht stören</translation>
+        <translation>Nicht stören</translation>
     </message>
     <message>
         <source>On</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Hide the client ID</source>
-        <translation>Client-ID ausblenden</translation>
+        <translation>Client-ID verbergen</translation>
     </message>
     <message>
         <source>Use another client ID</source>
@@ -213,11 +213,15 @@
     </message>
     <message>
         <source>Google wants to know which program asks. Make a client ID of your own, in a minute and for nothing:</source>
-        <translation>Google möchte wissen, welches Programm fragt. Legen Sie eine eigene Client-ID an, in einer Minute und kostenlos:</translation>
+        <translation>Google will wissen, welches Programm fragt. Legen Sie eine eigene Client-ID an, in einer Minute und kostenlos:</translation>
     </message>
     <message>
         <source>Google OAuth client ID</source>
         <translation>Google-OAuth-Client-ID</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
     </message>
 </context>
 <context>
@@ -228,7 +232,7 @@
     </message>
     <message>
         <source>That does not look like a client ID of a Google installed-app client (…%1).</source>
-        <translation>Das sieht nicht wie die Client-ID einer bei Google angelegten installierten App aus (…%1).</translation>
+        <translation>Das sieht nicht nach der Client-ID einer installierten Google-App aus (…%1).</translation>
     </message>
     <message>
         <source>Sign-in was cancelled.</source>
@@ -236,7 +240,7 @@
     </message>
     <message>
         <source>Google returned no refresh token. Remove Quillmere&apos;s access on your Google account&apos;s permissions page (%1), then sign in again.</source>
-        <translation>Google hat kein Aktualisierungstoken geliefert. Entfernen Sie den Zugriff von Quillmere auf der Berechtigungsseite Ihres Google-Kontos (%1) und melden Sie sich dann erneut an.</translation>
+        <translation>Google hat kein Aktualisierungstoken geliefert. Entziehen Sie Quillmere den Zugriff auf der Berechtigungsseite Ihres Google-Kontos (%1) und melden Sie sich dann noch einmal an.</translation>
     </message>
     <message>
         <source>Not signed in to Google.</source>
@@ -244,11 +248,11 @@
     </message>
     <message>
         <source>Your keyring is locked. Unlock it and sign in again.</source>
-        <translation>Ihr Schlüsselbund ist gesperrt. Entsperren Sie ihn und melden Sie sich erneut an.</translation>
+        <translation>Ihr Schlüsselbund ist gesperrt. Entsperren Sie ihn und melden Sie sich noch einmal an.</translation>
     </message>
     <message>
         <source>There is no keyring to keep the sign-in in. It needs a running one, such as GNOME Keyring or KWallet, and is kept nowhere else.</source>
-        <translation>Es gibt keinen Schlüsselbund für die Anmeldung. Nötig ist ein laufender wie GNOME-Schlüsselbund oder KWallet; anderswo wird sie nicht aufbewahrt.</translation>
+        <translation>Es gibt keinen Schlüsselbund für die Anmeldung. Nötig ist ein laufender, etwa GNOME Keyring oder KWallet; anderswo wird sie nicht aufbewahrt.</translation>
     </message>
 </context>
 <context>
@@ -314,23 +318,23 @@
     </message>
     <message>
         <source>Repeat, all</source>
-        <translation>Wiederholen, alle</translation>
+        <translation>Alle wiederholen</translation>
     </message>
     <message>
         <source>Repeat, this track</source>
-        <translation>Wiederholen, dieser Titel</translation>
+        <translation>Diesen Titel wiederholen</translation>
     </message>
     <message>
         <source>Repeat, off</source>
-        <translation>Wiederholen, aus</translation>
+        <translation>Wiederholen aus</translation>
     </message>
     <message>
         <source>Shuffle, on</source>
-        <translation>Zufall, ein</translation>
+        <translation>Zufallswiedergabe ein</translation>
     </message>
     <message>
         <source>Shuffle, off</source>
-        <translation>Zufall, aus</translation>
+        <translation>Zufallswiedergabe aus</translation>
     </message>
 </context>
 <context>
@@ -1185,7 +1189,7 @@
     </message>
     <message>
         <source>Switch on the Gmail API in it.</source>
-        <translation>Aktivieren Sie darin die Gmail-API.</translation>
+        <translation>Schalten Sie darin die Gmail-API ein.</translation>
     </message>
     <message>
         <source>Gmail API</source>
@@ -1201,15 +1205,15 @@
     </message>
     <message>
         <source>Fill in the consent screen: audience External, and yourself as a test user.</source>
-        <translation>Füllen Sie den Zustimmungsbildschirm aus: Zielgruppe „Extern“, und Sie selbst als Testnutzer.</translation>
+        <translation>Füllen Sie den Zustimmungsbildschirm aus: Zielgruppe „Extern“ und Sie selbst als Testnutzer.</translation>
     </message>
     <message>
         <source>Consent screen</source>
-        <translation>Zustimmung</translation>
+        <translation>Zustimmungsbildschirm</translation>
     </message>
     <message>
         <source>Make a client of the type iOS, the only one that needs no secret, with the bundle ID com.quillmere.Quillmere. Paste its client ID below.</source>
-        <translation>Legen Sie einen Client vom Typ iOS an, dem einzigen ohne Geheimnis, mit der Bundle-ID com.quillmere.Quillmere. Fügen Sie dessen Client-ID unten ein.</translation>
+        <translation>Legen Sie einen Client vom Typ iOS an, den einzigen ohne Geheimnis, mit der Bundle-ID com.quillmere.Quillmere. Fügen Sie seine Client-ID unten ein.</translation>
     </message>
     <message>
         <source>New client</source>
@@ -1217,11 +1221,11 @@
     </message>
     <message>
         <source>Reading mail is what Google calls a restricted scope. For a project of your own it warns once that the app is not verified. While the project is being tested it signs you out every seven days; published, it does not. To let more than 100 people use one client ID, Google asks for a verification and a security assessment each year, which is why everyone brings their own.</source>
-        <translation>E-Mails zu lesen ist für Google ein eingeschränkter Bereich. Bei einem eigenen Projekt warnt es einmal, dass die App nicht bestätigt ist. Solange das Projekt im Test ist, endet die Anmeldung alle sieben Tage; nach der Veröffentlichung nicht mehr. Damit mehr als 100 Personen eine Client-ID nutzen dürfen, verlangt Google eine Überprüfung und jedes Jahr eine Sicherheitsprüfung; deshalb bringt jeder seine eigene mit.</translation>
+        <translation>Das Lesen von E-Mail ist für Google ein eingeschränkter Zugriff. Bei einem eigenen Projekt warnt es einmal, dass die App nicht überprüft ist. Solange das Projekt im Test ist, meldet es Sie alle sieben Tage ab; veröffentlicht nicht mehr. Damit mehr als 100 Personen eine Client-ID benutzen dürfen, verlangt Google jedes Jahr eine Überprüfung und eine Sicherheitsbewertung; darum bringt jeder seine eigene mit.</translation>
     </message>
     <message>
         <source>The keyring is locked and still holds the sign-in. Unlock it and sign out again, or remove Quillmere&apos;s access on your Google account&apos;s page.</source>
-        <translation>Der Schlüsselbund ist gesperrt und enthält die Anmeldung noch. Entsperren Sie ihn und melden Sie sich erneut ab, oder entfernen Sie den Zugriff von Quillmere auf der Seite Ihres Google-Kontos.</translation>
+        <translation>Der Schlüsselbund ist gesperrt und enthält die Anmeldung noch. Entsperren Sie ihn und melden Sie sich noch einmal ab, oder entziehen Sie Quillmere den Zugriff auf der Seite Ihres Google-Kontos.</translation>
     </message>
 </context>
 <context>

@@ -74,7 +74,7 @@
     <name>BrowserAuthSession</name>
     <message>
         <source>The browser would not find its way back: %1</source>
-        <translation>浏览器将无法返回：%1</translation>
+        <translation>浏览器无法返回：%1</translation>
     </message>
     <message>
         <source>There is no browser to sign in with.</source>
@@ -85,7 +85,7 @@
     <name>CalendarEvents</name>
     <message>
         <source>Upcoming event</source>
-        <translation>即将开始的活动</translation>
+        <translation>即将开始的日程</translation>
     </message>
 </context>
 <context>
@@ -165,7 +165,7 @@
     <name>FocusAlerts</name>
     <message>
         <source>Do Not Disturb</source>
-        <translation>勿扰</translation>
+        <translation>勿扰模式</translation>
     </message>
     <message>
         <source>On</source>
@@ -180,7 +180,7 @@
     <name>GoogleAccountBox</name>
     <message>
         <source>Signed in as %1</source>
-        <translation>已登录：%1</translation>
+        <translation>已登录为 %1</translation>
     </message>
     <message>
         <source>Not signed in</source>
@@ -212,11 +212,15 @@
     </message>
     <message>
         <source>Google wants to know which program asks. Make a client ID of your own, in a minute and for nothing:</source>
-        <translation>Google 需要知道是哪个程序在请求。只需一分钟即可免费创建您自己的客户端 ID：</translation>
+        <translation>Google 需要知道是哪个程序在请求。请创建您自己的客户端 ID，只需一分钟且免费：</translation>
     </message>
     <message>
         <source>Google OAuth client ID</source>
         <translation>Google OAuth 客户端 ID</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
     </message>
 </context>
 <context>
@@ -227,7 +231,7 @@
     </message>
     <message>
         <source>That does not look like a client ID of a Google installed-app client (…%1).</source>
-        <translation>这不像是 Google 已安装应用的客户端 ID（…%1）。</translation>
+        <translation>这看起来不像 Google 已安装应用的客户端 ID（…%1）。</translation>
     </message>
     <message>
         <source>Sign-in was cancelled.</source>
@@ -247,7 +251,7 @@
     </message>
     <message>
         <source>There is no keyring to keep the sign-in in. It needs a running one, such as GNOME Keyring or KWallet, and is kept nowhere else.</source>
-        <translation>没有可保存登录信息的密钥环。需要正在运行的密钥环（例如 GNOME 密钥环或 KWallet），登录信息不会保存在其他地方。</translation>
+        <translation>没有可保存登录信息的密钥环。需要正在运行的密钥环，例如 GNOME Keyring 或 KWallet；登录信息不会保存在其他地方。</translation>
     </message>
 </context>
 <context>
@@ -313,23 +317,23 @@
     </message>
     <message>
         <source>Repeat, all</source>
-        <translation>重复，全部</translation>
+        <translation>重复全部</translation>
     </message>
     <message>
         <source>Repeat, this track</source>
-        <translation>重复，当前曲目</translation>
+        <translation>重复此曲</translation>
     </message>
     <message>
         <source>Repeat, off</source>
-        <translation>重复，关</translation>
+        <translation>重复已关闭</translation>
     </message>
     <message>
         <source>Shuffle, on</source>
-        <translation>随机播放，开</translation>
+        <translation>随机播放已打开</translation>
     </message>
     <message>
         <source>Shuffle, off</source>
-        <translation>随机播放，关</translation>
+        <translation>随机播放已关闭</translation>
     </message>
 </context>
 <context>
@@ -1176,7 +1180,7 @@
     <name>quillmere::GoogleAccountModel</name>
     <message>
         <source>Make a project; any name will do.</source>
-        <translation>创建一个项目，名称随意。</translation>
+        <translation>新建一个项目，名称随意。</translation>
     </message>
     <message>
         <source>New project</source>
@@ -1184,7 +1188,7 @@
     </message>
     <message>
         <source>Switch on the Gmail API in it.</source>
-        <translation>在其中启用 Gmail API。</translation>
+        <translation>在项目中启用 Gmail API。</translation>
     </message>
     <message>
         <source>Gmail API</source>
@@ -1200,7 +1204,7 @@
     </message>
     <message>
         <source>Fill in the consent screen: audience External, and yourself as a test user.</source>
-        <translation>填写同意屏幕：受众选择“外部”，并将您自己添加为测试用户。</translation>
+        <translation>填写同意屏幕：受众选“外部”，并把您自己加为测试用户。</translation>
     </message>
     <message>
         <source>Consent screen</source>
@@ -1208,7 +1212,7 @@
     </message>
     <message>
         <source>Make a client of the type iOS, the only one that needs no secret, with the bundle ID com.quillmere.Quillmere. Paste its client ID below.</source>
-        <translation>创建一个 iOS 类型的客户端（唯一不需要密钥的类型），软件包 ID 为 com.quillmere.Quillmere。将其客户端 ID 粘贴到下方。</translation>
+        <translation>新建一个类型为 iOS 的客户端（唯一不需要密钥的类型），Bundle ID 填 com.quillmere.Quillmere，然后把客户端 ID 粘贴到下面。</translation>
     </message>
     <message>
         <source>New client</source>
@@ -1216,7 +1220,7 @@
     </message>
     <message>
         <source>Reading mail is what Google calls a restricted scope. For a project of your own it warns once that the app is not verified. While the project is being tested it signs you out every seven days; published, it does not. To let more than 100 people use one client ID, Google asks for a verification and a security assessment each year, which is why everyone brings their own.</source>
-        <translation>读取邮件属于 Google 所说的受限范围。对于您自己的项目，它会提示一次该应用未经验证。项目处于测试状态时，每七天会退出登录；发布后则不会。若要让 100 人以上使用同一个客户端 ID，Google 要求进行验证以及每年一次的安全评估，因此每个人都使用自己的客户端 ID。</translation>
+        <translation>读取邮件属于 Google 所说的受限权限。对您自己的项目，它会提示一次该应用未经验证。项目处于测试状态时，每七天会让您退出登录；发布之后则不会。要让超过 100 人使用同一个客户端 ID，Google 每年都要求验证和安全评估，因此每个人使用自己的 ID。</translation>
     </message>
     <message>
         <source>The keyring is locked and still holds the sign-in. Unlock it and sign out again, or remove Quillmere&apos;s access on your Google account&apos;s page.</source>
