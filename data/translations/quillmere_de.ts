@@ -256,6 +256,99 @@
     </message>
 </context>
 <context>
+    <name>FocusAlerts</name>
+    <message>
+        <source>Do Not Disturb</source>
+        <translation>Nicht stören</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>GoogleAccountBox</name>
+    <message>
+        <source>Signed in as %1</source>
+        <translation>Angemeldet als %1</translation>
+    </message>
+    <message>
+        <source>Not signed in</source>
+        <translation>Nicht angemeldet</translation>
+    </message>
+    <message>
+        <source>Sign in with the browser that has opened…</source>
+        <translation>Melden Sie sich im geöffneten Browser an …</translation>
+    </message>
+    <message>
+        <source>Sign in with Google</source>
+        <translation>Mit Google anmelden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Sign out</source>
+        <translation>Abmelden</translation>
+    </message>
+    <message>
+        <source>Hide the client ID</source>
+        <translation>Client-ID verbergen</translation>
+    </message>
+    <message>
+        <source>Use another client ID</source>
+        <translation>Andere Client-ID verwenden</translation>
+    </message>
+    <message>
+        <source>Google wants to know which program asks. Make a client ID of your own, in a minute and for nothing:</source>
+        <translation>Google will wissen, welches Programm fragt. Legen Sie eine eigene Client-ID an, in einer Minute und kostenlos:</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Google OAuth client ID</source>
+        <translation>Google-OAuth-Client-ID</translation>
+    </message>
+</context>
+<context>
+    <name>GoogleSignIn</name>
+    <message>
+        <source>Paste your Google OAuth client ID first.</source>
+        <translation>Fügen Sie zuerst Ihre Google-OAuth-Client-ID ein.</translation>
+    </message>
+    <message>
+        <source>That does not look like a client ID of a Google installed-app client (…%1).</source>
+        <translation>Das sieht nicht nach der Client-ID einer installierten Google-App aus (…%1).</translation>
+    </message>
+    <message>
+        <source>Sign-in was cancelled.</source>
+        <translation>Die Anmeldung wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Google returned no refresh token. Remove Quillmere&apos;s access on your Google account&apos;s permissions page (%1), then sign in again.</source>
+        <translation>Google hat kein Aktualisierungstoken geliefert. Entziehen Sie Quillmere den Zugriff auf der Berechtigungsseite Ihres Google-Kontos (%1) und melden Sie sich dann noch einmal an.</translation>
+    </message>
+    <message>
+        <source>Not signed in to Google.</source>
+        <translation>Nicht bei Google angemeldet.</translation>
+    </message>
+    <message>
+        <source>Your keyring is locked. Unlock it and sign in again.</source>
+        <translation>Ihr Schlüsselbund ist gesperrt. Entsperren Sie ihn und melden Sie sich noch einmal an.</translation>
+    </message>
+    <message>
+        <source>There is no keyring to keep the sign-in in. It needs a running one, such as GNOME Keyring or KWallet, and is kept nowhere else.</source>
+        <translation>Es gibt keinen Schlüsselbund für die Anmeldung. Nötig ist ein laufender, etwa GNOME Keyring oder KWallet; anderswo wird sie nicht aufbewahrt.</translation>
+    </message>
+</context>
+<context>
     <name>HUD</name>
     <message>
         <source>%1%</source>

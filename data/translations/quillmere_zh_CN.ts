@@ -255,6 +255,99 @@
     </message>
 </context>
 <context>
+    <name>FocusAlerts</name>
+    <message>
+        <source>Do Not Disturb</source>
+        <translation>勿扰模式</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+</context>
+<context>
+    <name>GoogleAccountBox</name>
+    <message>
+        <source>Signed in as %1</source>
+        <translation>已登录为 %1</translation>
+    </message>
+    <message>
+        <source>Not signed in</source>
+        <translation>未登录</translation>
+    </message>
+    <message>
+        <source>Sign in with the browser that has opened…</source>
+        <translation>请在打开的浏览器中登录…</translation>
+    </message>
+    <message>
+        <source>Sign in with Google</source>
+        <translation>使用 Google 登录</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Sign out</source>
+        <translation>退出登录</translation>
+    </message>
+    <message>
+        <source>Hide the client ID</source>
+        <translation>隐藏客户端 ID</translation>
+    </message>
+    <message>
+        <source>Use another client ID</source>
+        <translation>使用其他客户端 ID</translation>
+    </message>
+    <message>
+        <source>Google wants to know which program asks. Make a client ID of your own, in a minute and for nothing:</source>
+        <translation>Google 需要知道是哪个程序在请求。请创建您自己的客户端 ID，只需一分钟且免费：</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Google OAuth client ID</source>
+        <translation>Google OAuth 客户端 ID</translation>
+    </message>
+</context>
+<context>
+    <name>GoogleSignIn</name>
+    <message>
+        <source>Paste your Google OAuth client ID first.</source>
+        <translation>请先粘贴您的 Google OAuth 客户端 ID。</translation>
+    </message>
+    <message>
+        <source>That does not look like a client ID of a Google installed-app client (…%1).</source>
+        <translation>这看起来不像 Google 已安装应用的客户端 ID（…%1）。</translation>
+    </message>
+    <message>
+        <source>Sign-in was cancelled.</source>
+        <translation>登录已取消。</translation>
+    </message>
+    <message>
+        <source>Google returned no refresh token. Remove Quillmere&apos;s access on your Google account&apos;s permissions page (%1), then sign in again.</source>
+        <translation>Google 没有返回刷新令牌。请在您的 Google 账号权限页面（%1）移除 Quillmere 的访问权限，然后重新登录。</translation>
+    </message>
+    <message>
+        <source>Not signed in to Google.</source>
+        <translation>未登录 Google。</translation>
+    </message>
+    <message>
+        <source>Your keyring is locked. Unlock it and sign in again.</source>
+        <translation>您的密钥环已锁定。请解锁后重新登录。</translation>
+    </message>
+    <message>
+        <source>There is no keyring to keep the sign-in in. It needs a running one, such as GNOME Keyring or KWallet, and is kept nowhere else.</source>
+        <translation>没有可保存登录信息的密钥环。需要正在运行的密钥环，例如 GNOME Keyring 或 KWallet；登录信息不会保存在其他地方。</translation>
+    </message>
+</context>
+<context>
     <name>HUD</name>
     <message>
         <source>%1%</source>
