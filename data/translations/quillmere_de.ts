@@ -521,6 +521,13 @@
     </message>
 </context>
 <context>
+    <name>PageView</name>
+    <message>
+        <source>Reset this page</source>
+        <translation>Diese Seite zurücksetzen</translation>
+    </message>
+</context>
+<context>
     <name>PlaceSearchPanel</name>
     <message>
         <source>City or place</source>
@@ -584,6 +591,13 @@
     </message>
 </context>
 <context>
+    <name>PreviewStrip</name>
+    <message>
+        <source>The open island</source>
+        <translation>Die geöffnete Insel</translation>
+    </message>
+</context>
+<context>
     <name>QuillmereShortcuts</name>
     <message>
         <source>minute</source>
@@ -643,6 +657,1248 @@
     <message>
         <source>Position</source>
         <translation>Position</translation>
+    </message>
+</context>
+<context>
+    <name>SearchField</name>
+    <message>
+        <source>Search settings</source>
+        <translation>Einstellungen durchsuchen</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Show new mail</source>
+        <translation>Neue E-Mails zeigen</translation>
+    </message>
+    <message>
+        <source>Sender and subject, as mail arrives.</source>
+        <translation>Absender und Betreff, sobald eine E-Mail kommt.</translation>
+    </message>
+    <message>
+        <source>Show for</source>
+        <translation>Anzeigedauer</translation>
+    </message>
+    <message>
+        <source>How long a mail stays on the island.</source>
+        <translation>Wie lange eine E-Mail auf der Insel bleibt.</translation>
+    </message>
+    <message>
+        <source>Look every</source>
+        <translation>Nachsehen alle</translation>
+    </message>
+    <message>
+        <source>How often the mail folders are looked at.</source>
+        <translation>Wie oft in den Mailordnern nachgesehen wird.</translation>
+    </message>
+    <message>
+        <source>Show new Gmail messages</source>
+        <translation>Neue Gmail-Nachrichten zeigen</translation>
+    </message>
+    <message>
+        <source>Sender and subject of unread messages in the inbox.</source>
+        <translation>Absender und Betreff ungelesener Nachrichten im Posteingang.</translation>
+    </message>
+    <message>
+        <source>Show coming events</source>
+        <translation>Kommende Termine zeigen</translation>
+    </message>
+    <message>
+        <source>Events of your Google calendar, before they begin.</source>
+        <translation>Termine Ihres Google-Kalenders, bevor sie beginnen.</translation>
+    </message>
+    <message>
+        <source>Tell of events</source>
+        <translation>Termine ankündigen</translation>
+    </message>
+    <message>
+        <source>How long before they begin.</source>
+        <translation>Wie lange vor ihrem Beginn.</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 Min.</translation>
+    </message>
+    <message>
+        <source>How often Google is asked for news.</source>
+        <translation>Wie oft Google nach Neuem gefragt wird.</translation>
+    </message>
+    <message>
+        <source>Client ID</source>
+        <translation>Client-ID</translation>
+    </message>
+    <message>
+        <source>Of a Google project of your own; empty for the built-in one.</source>
+        <translation>Eines eigenen Google-Projekts; leer für die eingebaute.</translation>
+    </message>
+    <message>
+        <source>Show messages</source>
+        <translation>Nachrichten zeigen</translation>
+    </message>
+    <message>
+        <source>Who wrote and what, as it comes.</source>
+        <translation>Wer was schreibt, sobald es kommt.</translation>
+    </message>
+    <message>
+        <source>How long a message stays on the island.</source>
+        <translation>Wie lange eine Nachricht auf der Insel bleibt.</translation>
+    </message>
+    <message>
+        <source>How often stored notifications are looked at. What the desktop announces is shown at once.</source>
+        <translation>Wie oft gespeicherte Benachrichtigungen durchgesehen werden. Was der Desktop meldet, erscheint sofort.</translation>
+    </message>
+    <message>
+        <source>New mail</source>
+        <translation>Neue E-Mail</translation>
+    </message>
+    <message>
+        <source>Gmail and calendar</source>
+        <translation>Gmail und Kalender</translation>
+    </message>
+    <message>
+        <source>Access</source>
+        <translation>Zugang</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Nachrichten</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Lädt</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Sanft</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Schnell</translation>
+    </message>
+    <message>
+        <source>Instant</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>Keep size</source>
+        <translation>Gleich groß</translation>
+    </message>
+    <message>
+        <source>Grow</source>
+        <translation>Wachsend</translation>
+    </message>
+    <message>
+        <source>Display messages</source>
+        <translation>Meldungen des Bildschirms</translation>
+    </message>
+    <message>
+        <source>All that the display has to tell; off is off for all.</source>
+        <translation>Alles, was der Bildschirm meldet; aus heißt aus für alles.</translation>
+    </message>
+    <message>
+        <source>Show the brightness</source>
+        <translation>Helligkeit zeigen</translation>
+    </message>
+    <message>
+        <source>When you change it. What the machine does is not shown.</source>
+        <translation>Wenn Sie sie ändern. Was der Rechner selbst tut, erscheint nicht.</translation>
+    </message>
+    <message>
+        <source>How long the brightness stays on the island.</source>
+        <translation>Wie lange die Helligkeit auf der Insel bleibt.</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>The colour of the bar.</source>
+        <translation>Die Farbe des Balkens.</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Accent</source>
+        <translation>Akzent</translation>
+    </message>
+    <message>
+        <source>Glow</source>
+        <translation>Leuchten</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>Bewegung</translation>
+    </message>
+    <message>
+        <source>How the bar gets to a new level.</source>
+        <translation>Wie der Balken zu einem neuen Stand kommt.</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>Whether the sun grows with the level.</source>
+        <translation>Ob die Sonne mit der Helligkeit wächst.</translation>
+    </message>
+    <message>
+        <source>Show the percentage</source>
+        <translation>Prozentzahl zeigen</translation>
+    </message>
+    <message>
+        <source>A figure beside the bar.</source>
+        <translation>Eine Zahl neben dem Balken.</translation>
+    </message>
+    <message>
+        <source>Hide the label</source>
+        <translation>Beschriftung ausblenden</translation>
+    </message>
+    <message>
+        <source>Without the word Min at the dark end.</source>
+        <translation>Ohne das Wort „Min.“ am dunklen Ende.</translation>
+    </message>
+    <message>
+        <source>No bump at the ends</source>
+        <translation>Kein Federn an den Enden</translation>
+    </message>
+    <message>
+        <source>The bar stops short instead of bouncing.</source>
+        <translation>Der Balken hält an, statt zu federn.</translation>
+    </message>
+    <message>
+        <source>Sound messages</source>
+        <translation>Meldungen zum Ton</translation>
+    </message>
+    <message>
+        <source>All that sound has to tell; off is off for all.</source>
+        <translation>Alles, was den Ton betrifft; aus heißt aus für alles.</translation>
+    </message>
+    <message>
+        <source>Show the volume</source>
+        <translation>Lautstärke zeigen</translation>
+    </message>
+    <message>
+        <source>When it changes, by whom ever.</source>
+        <translation>Wenn sie sich ändert, durch wen auch immer.</translation>
+    </message>
+    <message>
+        <source>How long the volume stays on the island.</source>
+        <translation>Wie lange die Lautstärke auf der Insel bleibt.</translation>
+    </message>
+    <message>
+        <source>Scroll to change the volume</source>
+        <translation>Lautstärke durch Scrollen ändern</translation>
+    </message>
+    <message>
+        <source>With the pointer over the resting pill.</source>
+        <translation>Mit dem Zeiger über der ruhenden Insel.</translation>
+    </message>
+    <message>
+        <source>Loudness</source>
+        <translation>Lautstärkesymbol</translation>
+    </message>
+    <message>
+        <source>A speaker, or the device that sounds.</source>
+        <translation>Ein Lautsprecher oder das Gerät, das klingt.</translation>
+    </message>
+    <message>
+        <source>Speaker</source>
+        <translation>Lautsprecher</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Size of the symbol</source>
+        <translation>Größe des Symbols</translation>
+    </message>
+    <message>
+        <source>Whether the symbol grows with the level.</source>
+        <translation>Ob das Symbol mit der Lautstärke wächst.</translation>
+    </message>
+    <message>
+        <source>Without the word Mute at the silent end.</source>
+        <translation>Ohne das Wort „Stumm“ am leisen Ende.</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>The power service does not answer. Install the package upower.</source>
+        <translation>Der Energiedienst antwortet nicht. Installieren Sie das Paket upower.</translation>
+    </message>
+    <message>
+        <source>This machine has no battery.</source>
+        <translation>Dieser Rechner hat keinen Akku.</translation>
+    </message>
+    <message>
+        <source>This desktop has no way to leave a window out of screen captures.</source>
+        <translation>Dieser Desktop kann kein Fenster aus Bildschirmaufnahmen heraushalten.</translation>
+    </message>
+    <message>
+        <source>This desktop decides by itself what its overview shows.</source>
+        <translation>Dieser Desktop entscheidet selbst, was seine Übersicht zeigt.</translation>
+    </message>
+    <message>
+        <source>This desktop does not tell which window fills the screen.</source>
+        <translation>Dieser Desktop sagt nicht, welches Fenster den Bildschirm füllt.</translation>
+    </message>
+    <message>
+        <source>This desktop tells of a drag only once it is over the island.</source>
+        <translation>Dieser Desktop meldet ein Ziehen erst, wenn es über der Insel ist.</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Statusleiste</translation>
+    </message>
+    <message>
+        <source>This desktop has no place for status icons, so there is no menu there. On GNOME, the AppIndicator extension adds one.</source>
+        <translation>Dieser Desktop hat keinen Platz für Statussymbole, darum gibt es dort kein Menü. Unter GNOME schafft die Erweiterung AppIndicator einen.</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Desktop</translation>
+    </message>
+    <message>
+        <source>This machine</source>
+        <translation>Dieser Rechner</translation>
+    </message>
+    <message>
+        <source>The battery is at %1 %.</source>
+        <translation>Der Akku steht bei %1 %.</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>Gefunden</translation>
+    </message>
+    <message>
+        <source>This display</source>
+        <translation>Dieser Bildschirm</translation>
+    </message>
+    <message>
+        <source>Its brightness is %1 %.</source>
+        <translation>Seine Helligkeit beträgt %1 %.</translation>
+    </message>
+    <message>
+        <source>No display here tells its brightness. For an external one, load the module i2c-dev and join the group i2c.</source>
+        <translation>Hier meldet kein Bildschirm seine Helligkeit. Für einen externen laden Sie das Modul i2c-dev und treten Sie der Gruppe i2c bei.</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>No sound server answers. Start it with: systemctl --user start pipewire-pulse</source>
+        <translation>Kein Tonserver antwortet. Starten Sie ihn mit: systemctl --user start pipewire-pulse</translation>
+    </message>
+    <message>
+        <source>Mail folders</source>
+        <translation>Mailordner</translation>
+    </message>
+    <message>
+        <source>Looking…</source>
+        <translation>Wird gesucht …</translation>
+    </message>
+    <message>
+        <source>No mail was found here: no Maildir, mbox or notmuch, and no Thunderbird or Evolution. A program unread-mail of your own in the folder scripts beside the settings can answer instead.</source>
+        <translation>Hier wurde keine E-Mail gefunden: kein Maildir, mbox oder notmuch, kein Thunderbird oder Evolution. Ein eigenes Programm unread-mail im Ordner scripts neben den Einstellungen kann stattdessen antworten.</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Shows a mail as it would come.</source>
+        <translation>Zeigt eine E-Mail, wie sie käme.</translation>
+    </message>
+    <message>
+        <source>Send a test</source>
+        <translation>Test senden</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Where from</source>
+        <translation>Woher</translation>
+    </message>
+    <message>
+        <source>From the notifications the application shows on this desktop. Turn them on there; nothing is read elsewhere.</source>
+        <translation>Aus den Benachrichtigungen, die das Programm auf diesem Desktop zeigt. Schalten Sie sie dort ein; anderswo wird nichts gelesen.</translation>
+    </message>
+    <message>
+        <source>Shows the last message that came.</source>
+        <translation>Zeigt die zuletzt eingetroffene Nachricht.</translation>
+    </message>
+    <message>
+        <source>Playing now</source>
+        <translation>Läuft gerade</translation>
+    </message>
+    <message>
+        <source>There is no session bus, so no player can be asked.</source>
+        <translation>Es gibt keinen Sitzungsbus, also kann kein Player gefragt werden.</translation>
+    </message>
+    <message>
+        <source>Browser tabs</source>
+        <translation>Browser-Tabs</translation>
+    </message>
+    <message>
+        <source>Chromium and its kin tell of their tabs only when they are started so: chromium --remote-debugging-port=0</source>
+        <translation>Chromium und Verwandte verraten ihre Tabs nur, wenn sie so gestartet werden: chromium --remote-debugging-port=0</translation>
+    </message>
+    <message>
+        <source>No player plays anything.</source>
+        <translation>Kein Player spielt etwas.</translation>
+    </message>
+    <message>
+        <source>%1, from %2</source>
+        <translation>%1, von %2</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Weather now</source>
+        <translation>Wetter jetzt</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>%1, as you typed it.</source>
+        <translation>%1, wie eingegeben.</translation>
+    </message>
+    <message>
+        <source>Forget it</source>
+        <translation>Vergessen</translation>
+    </message>
+    <message>
+        <source>Where this machine is, as its location service tells.</source>
+        <translation>Wo dieser Rechner ist, wie sein Standortdienst meldet.</translation>
+    </message>
+    <message>
+        <source>Nobody was asked yet. You can also type a place on the island.</source>
+        <translation>Noch wurde niemand gefragt. Sie können auch auf der Insel einen Ort eingeben.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Fragen</translation>
+    </message>
+    <message>
+        <source>The location is refused. Allow it in the privacy settings of the desktop, or type a place on the island.</source>
+        <translation>Der Standort wird verweigert. Erlauben Sie ihn in den Privatsphäre-Einstellungen des Desktops oder geben Sie auf der Insel einen Ort ein.</translation>
+    </message>
+    <message>
+        <source>There is no location service. Install the package geoclue-2.0, or type a place on the island.</source>
+        <translation>Es gibt keinen Standortdienst. Installieren Sie das Paket geoclue-2.0 oder geben Sie auf der Insel einen Ort ein.</translation>
+    </message>
+    <message>
+        <source>None was reported yet.</source>
+        <translation>Noch keines gemeldet.</translation>
+    </message>
+    <message>
+        <source>%1: %2 %3, %4</source>
+        <translation>%1: %2 %3, %4</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Lizenz</translation>
+    </message>
+    <message>
+        <source>MIT License</source>
+        <translation>MIT-Lizenz</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Log folder</source>
+        <translation>Protokollordner</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>First steps</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>What was shown when Quillmere first started.</source>
+        <translation>Was beim ersten Start von Quillmere zu sehen war.</translation>
+    </message>
+    <message>
+        <source>Show again</source>
+        <translation>Noch einmal zeigen</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Quillmere</source>
+        <translation>Quillmere</translation>
+    </message>
+    <message>
+        <source>Monochrome</source>
+        <translation>Einfarbig</translation>
+    </message>
+    <message>
+        <source>Coloured</source>
+        <translation>Farbig</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Show media</source>
+        <translation>Medien zeigen</translation>
+    </message>
+    <message>
+        <source>Artwork and waveform beside the notch while something plays.</source>
+        <translation>Cover und Wellenform neben der Insel, während etwas läuft.</translation>
+    </message>
+    <message>
+        <source>Hide while the player is in front</source>
+        <translation>Ausblenden, wenn der Player vorn ist</translation>
+    </message>
+    <message>
+        <source>Nothing doubles what you already look at.</source>
+        <translation>Nichts wiederholt, was Sie ohnehin sehen.</translation>
+    </message>
+    <message>
+        <source>Keep after pausing</source>
+        <translation>Nach Pause behalten</translation>
+    </message>
+    <message>
+        <source>How long a paused track stays on the island.</source>
+        <translation>Wie lange ein angehaltener Titel auf der Insel bleibt.</translation>
+    </message>
+    <message>
+        <source>Expanded</source>
+        <translation>Geöffnet</translation>
+    </message>
+    <message>
+        <source>Style of the waveform in the dashboard.</source>
+        <translation>Stil der Wellenform in der Übersicht.</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Geschlossen</translation>
+    </message>
+    <message>
+        <source>Style of the waveform beside the notch.</source>
+        <translation>Stil der Wellenform neben der Insel.</translation>
+    </message>
+    <message>
+        <source>No waveform beside the notch</source>
+        <translation>Keine Wellenform neben der Insel</translation>
+    </message>
+    <message>
+        <source>Only the artwork stays there.</source>
+        <translation>Nur das Cover bleibt dort.</translation>
+    </message>
+    <message>
+        <source>Extra button</source>
+        <translation>Zusatztaste</translation>
+    </message>
+    <message>
+        <source>Where the player cannot do it, there is none.</source>
+        <translation>Kann der Player es nicht, gibt es keine.</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Shuffle</source>
+        <translation>Zufallswiedergabe</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Short titles</source>
+        <translation>Kurze Titel</translation>
+    </message>
+    <message>
+        <source>Leaves out what is in brackets: remasters, guests.</source>
+        <translation>Lässt Eingeklammertes weg: Neuauflagen, Gäste.</translation>
+    </message>
+    <message>
+        <source>Colours of the artwork</source>
+        <translation>Farben des Covers</translation>
+    </message>
+    <message>
+        <source>Waveform and buttons take the artwork&apos;s main colour.</source>
+        <translation>Wellenform und Tasten nehmen die Hauptfarbe des Covers an.</translation>
+    </message>
+    <message>
+        <source>Artwork does not turn over</source>
+        <translation>Cover dreht sich nicht um</translation>
+    </message>
+    <message>
+        <source>A new cover fades in instead.</source>
+        <translation>Ein neues Cover wird stattdessen eingeblendet.</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>The player that plays, then a browser tab.</source>
+        <translation>Der Player, der spielt, sonst ein Browser-Tab.</translation>
+    </message>
+    <message>
+        <source>Show changes of the weather</source>
+        <translation>Wetterwechsel zeigen</translation>
+    </message>
+    <message>
+        <source>When it turns, and once when you start your day.</source>
+        <translation>Wenn es umschlägt, und einmal zu Beginn des Tages.</translation>
+    </message>
+    <message>
+        <source>Fahrenheit</source>
+        <translation>Fahrenheit</translation>
+    </message>
+    <message>
+        <source>Temperatures in °F instead of °C.</source>
+        <translation>Temperaturen in °F statt °C.</translation>
+    </message>
+    <message>
+        <source>File tray</source>
+        <translation>Dateiablage</translation>
+    </message>
+    <message>
+        <source>Files dropped on the island stay on a page of their own.</source>
+        <translation>Auf der Insel abgelegte Dateien bleiben auf einer eigenen Seite.</translation>
+    </message>
+    <message>
+        <source>Keep at most</source>
+        <translation>Höchstens behalten</translation>
+    </message>
+    <message>
+        <source>The oldest file leaves first.</source>
+        <translation>Die älteste Datei geht zuerst.</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
+    </message>
+    <message>
+        <source>Island</source>
+        <translation>Insel</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>Wellenform</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Wetter</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Ablage</translation>
+    </message>
+    <message>
+        <source>Focus timer</source>
+        <translation>Fokus-Timer</translation>
+    </message>
+    <message>
+        <source>Work and breaks by the clock, on a page of the island.</source>
+        <translation>Arbeit und Pausen nach der Uhr, auf einer Seite der Insel.</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Arbeit</translation>
+    </message>
+    <message>
+        <source>Length of a session.</source>
+        <translation>Länge einer Phase.</translation>
+    </message>
+    <message>
+        <source>Short break</source>
+        <translation>Kurze Pause</translation>
+    </message>
+    <message>
+        <source>After a session.</source>
+        <translation>Nach einer Phase.</translation>
+    </message>
+    <message>
+        <source>Long break</source>
+        <translation>Lange Pause</translation>
+    </message>
+    <message>
+        <source>After every fourth session.</source>
+        <translation>Nach jeder vierten Phase.</translation>
+    </message>
+    <message>
+        <source>System monitor</source>
+        <translation>Systemmonitor</translation>
+    </message>
+    <message>
+        <source>Processor, memory and disk on a page of the island.</source>
+        <translation>Prozessor, Speicher und Datenträger auf einer Seite der Insel.</translation>
+    </message>
+    <message>
+        <source>Show the assistant</source>
+        <translation>Assistenten zeigen</translation>
+    </message>
+    <message>
+        <source>What Claude Code does, beside the notch. Puts a hook into its settings while it is on, and takes it out again.</source>
+        <translation>Was Claude Code tut, neben der Insel. Trägt einen Hook in dessen Einstellungen ein, solange es an ist, und nimmt ihn wieder heraus.</translation>
+    </message>
+    <message>
+        <source>Countdown and stopwatch</source>
+        <translation>Countdown und Stoppuhr</translation>
+    </message>
+    <message>
+        <source>A timer and a stopwatch on a page of the island.</source>
+        <translation>Ein Timer und eine Stoppuhr auf einer Seite der Insel.</translation>
+    </message>
+    <message>
+        <source>Debug log</source>
+        <translation>Fehlerprotokoll</translation>
+    </message>
+    <message>
+        <source>Writes what happens and why, for finding faults.</source>
+        <translation>Schreibt auf, was geschieht und warum, zur Fehlersuche.</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Auslastung</translation>
+    </message>
+    <message>
+        <source>Assistant</source>
+        <translation>Assistent</translation>
+    </message>
+    <message>
+        <source>Timers</source>
+        <translation>Timer</translation>
+    </message>
+    <message>
+        <source>Finding faults</source>
+        <translation>Fehlersuche</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Show power changes</source>
+        <translation>Stromwechsel zeigen</translation>
+    </message>
+    <message>
+        <source>When the charger goes in or out, and when it is full.</source>
+        <translation>Wenn das Ladegerät ein- oder ausgesteckt wird und wenn der Akku voll ist.</translation>
+    </message>
+    <message>
+        <source>How long a message about the battery stays.</source>
+        <translation>Wie lange eine Meldung zum Akku bleibt.</translation>
+    </message>
+    <message>
+        <source>The picture of the battery says enough.</source>
+        <translation>Das Bild des Akkus sagt genug.</translation>
+    </message>
+    <message>
+        <source>Hide the percentage</source>
+        <translation>Prozentzahl ausblenden</translation>
+    </message>
+    <message>
+        <source>No figure beside the battery.</source>
+        <translation>Keine Zahl neben dem Akku.</translation>
+    </message>
+    <message>
+        <source>Power saver</source>
+        <translation>Stromsparmodus</translation>
+    </message>
+    <message>
+        <source>Tells when the machine begins to save power.</source>
+        <translation>Meldet, wenn der Rechner Strom zu sparen beginnt.</translation>
+    </message>
+    <message>
+        <source>Warn of a low battery</source>
+        <translation>Vor schwachem Akku warnen</translation>
+    </message>
+    <message>
+        <source>Once each time the charge falls below the limit.</source>
+        <translation>Jedes Mal einmal, wenn die Ladung unter die Grenze fällt.</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Grenze</translation>
+    </message>
+    <message>
+        <source>The charge from which the battery counts as low.</source>
+        <translation>Die Ladung, ab der der Akku als schwach gilt.</translation>
+    </message>
+    <message>
+        <source>Play a sound</source>
+        <translation>Ton abspielen</translation>
+    </message>
+    <message>
+        <source>Together with the warning.</source>
+        <translation>Zusammen mit der Warnung.</translation>
+    </message>
+    <message>
+        <source>Show devices that connect</source>
+        <translation>Verbundene Geräte zeigen</translation>
+    </message>
+    <message>
+        <source>Headphones and speakers, with their charge.</source>
+        <translation>Kopfhörer und Lautsprecher mit ihrer Ladung.</translation>
+    </message>
+    <message>
+        <source>How long a device stays on the island.</source>
+        <translation>Wie lange ein Gerät auf der Insel bleibt.</translation>
+    </message>
+    <message>
+        <source>Warn of a low device</source>
+        <translation>Vor schwachem Gerät warnen</translation>
+    </message>
+    <message>
+        <source>Once each time a device&apos;s charge falls below the limit.</source>
+        <translation>Jedes Mal einmal, wenn die Ladung eines Geräts unter die Grenze fällt.</translation>
+    </message>
+    <message>
+        <source>The charge from which a device counts as low.</source>
+        <translation>Die Ladung, ab der ein Gerät als schwach gilt.</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Strom</translation>
+    </message>
+    <message>
+        <source>Low battery</source>
+        <translation>Schwacher Akku</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>Bluetooth</translation>
+    </message>
+    <message>
+        <source>Low charge</source>
+        <translation>Schwache Ladung</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>How the open island is drawn. The pill is always black.</source>
+        <translation>Wie die geöffnete Insel aussieht. Geschlossen ist sie immer schwarz.</translation>
+    </message>
+    <message>
+        <source>Glass</source>
+        <translation>Glas</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>Klassisch</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Durchsichtigkeit</translation>
+    </message>
+    <message>
+        <source>How much of the wallpaper the glass lets through.</source>
+        <translation>Wie viel vom Hintergrundbild das Glas durchlässt.</translation>
+    </message>
+    <message>
+        <source>Use the accent colour</source>
+        <translation>Akzentfarbe verwenden</translation>
+    </message>
+    <message>
+        <source>Marks and bars take the desktop&apos;s accent colour.</source>
+        <translation>Zeichen und Balken nehmen die Akzentfarbe des Desktops an.</translation>
+    </message>
+    <message>
+        <source>Open on hover</source>
+        <translation>Beim Überfahren öffnen</translation>
+    </message>
+    <message>
+        <source>The pointer alone opens the island, without a click.</source>
+        <translation>Der Zeiger allein öffnet die Insel, ohne Klick.</translation>
+    </message>
+    <message>
+        <source>Close after</source>
+        <translation>Schließen nach</translation>
+    </message>
+    <message>
+        <source>How long the island stays open once the pointer left.</source>
+        <translation>Wie lange die Insel offen bleibt, nachdem der Zeiger fort ist.</translation>
+    </message>
+    <message>
+        <source>Haptic feedback</source>
+        <translation>Haptische Rückmeldung</translation>
+    </message>
+    <message>
+        <source>A short buzz on devices that have a motor for it.</source>
+        <translation>Ein kurzes Vibrieren auf Geräten mit Motor dafür.</translation>
+    </message>
+    <message>
+        <source>Beside the notch</source>
+        <translation>Neben der Insel</translation>
+    </message>
+    <message>
+        <source>What the resting pill shows. The calendar has nothing to show there yet.</source>
+        <translation>Was die ruhende Insel zeigt. Der Kalender hat dort noch nichts zu zeigen.</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Medien</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Beides</translation>
+    </message>
+    <message>
+        <source>Show the last event</source>
+        <translation>Letztes Ereignis zeigen</translation>
+    </message>
+    <message>
+        <source>With nothing else beside the notch, what came last.</source>
+        <translation>Wenn sonst nichts daneben steht, was zuletzt kam.</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Which screen carries the island.</source>
+        <translation>Welcher Bildschirm die Insel trägt.</translation>
+    </message>
+    <message>
+        <source>Built-in</source>
+        <translation>Eingebaut</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Haupt</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Width of the pill</source>
+        <translation>Breite der Insel</translation>
+    </message>
+    <message>
+        <source>On screens without a camera housing; 60 to 600.</source>
+        <translation>Auf Bildschirmen ohne Kameraaussparung; 60 bis 600.</translation>
+    </message>
+    <message>
+        <source>Height of the pill</source>
+        <translation>Höhe der Insel</translation>
+    </message>
+    <message>
+        <source>On screens without a camera housing; 20 to 100.</source>
+        <translation>Auf Bildschirmen ohne Kameraaussparung; 20 bis 100.</translation>
+    </message>
+    <message>
+        <source>Hide over full-screen windows</source>
+        <translation>Über Vollbildfenstern ausblenden</translation>
+    </message>
+    <message>
+        <source>The resting pill goes away; what happens is still shown.</source>
+        <translation>Die ruhende Insel verschwindet; was geschieht, erscheint weiterhin.</translation>
+    </message>
+    <message>
+        <source>Silent over full-screen windows</source>
+        <translation>Über Vollbildfenstern still</translation>
+    </message>
+    <message>
+        <source>Nothing at all is shown over a full-screen window.</source>
+        <translation>Über einem Vollbildfenster erscheint gar nichts.</translation>
+    </message>
+    <message>
+        <source>Hide in the overview</source>
+        <translation>In der Übersicht ausblenden</translation>
+    </message>
+    <message>
+        <source>Leaves the island out of the desktop&apos;s overview.</source>
+        <translation>Lässt die Insel aus der Übersicht des Desktops weg.</translation>
+    </message>
+    <message>
+        <source>Hide from screen capture</source>
+        <translation>In Bildschirmaufnahmen ausblenden</translation>
+    </message>
+    <message>
+        <source>Leaves the island out of screenshots and recordings.</source>
+        <translation>Lässt die Insel aus Bildschirmfotos und Aufnahmen weg.</translation>
+    </message>
+    <message>
+        <source>Swipe to open and close</source>
+        <translation>Wischen zum Öffnen und Schließen</translation>
+    </message>
+    <message>
+        <source>Down opens the island, up closes it.</source>
+        <translation>Nach unten öffnet die Insel, nach oben schließt sie.</translation>
+    </message>
+    <message>
+        <source>Swipe through events</source>
+        <translation>Durch Ereignisse wischen</translation>
+    </message>
+    <message>
+        <source>Sideways goes through what came lately.</source>
+        <translation>Seitwärts geht durch das zuletzt Gekommene.</translation>
+    </message>
+    <message>
+        <source>Swipe to dismiss</source>
+        <translation>Wischen zum Ausblenden</translation>
+    </message>
+    <message>
+        <source>Up takes away what is shown beside the notch.</source>
+        <translation>Nach oben nimmt weg, was neben der Insel steht.</translation>
+    </message>
+    <message>
+        <source>Swipe to skip a track</source>
+        <translation>Wischen zum Titelwechsel</translation>
+    </message>
+    <message>
+        <source>Sideways over playing media goes to the next or last.</source>
+        <translation>Seitwärts über laufenden Medien geht zum nächsten oder vorigen.</translation>
+    </message>
+    <message>
+        <source>Natural direction</source>
+        <translation>Natürliche Richtung</translation>
+    </message>
+    <message>
+        <source>Content follows the fingers instead of the scroll bar.</source>
+        <translation>Der Inhalt folgt den Fingern statt dem Rollbalken.</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Bei der Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>Quillmere is there as soon as you are.</source>
+        <translation>Quillmere ist da, sobald Sie da sind.</translation>
+    </message>
+    <message>
+        <source>Share settings</source>
+        <translation>Einstellungen teilen</translation>
+    </message>
+    <message>
+        <source>Through the folder below, from the next start on.</source>
+        <translation>Über den Ordner unten, ab dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Shared folder</source>
+        <translation>Geteilter Ordner</translation>
+    </message>
+    <message>
+        <source>One that Nextcloud, Syncthing or the like carries to your other machines. Used from the next start on.</source>
+        <translation>Einer, den Nextcloud, Syncthing oder Ähnliches zu Ihren anderen Rechnern trägt. Gilt ab dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Behaviour</source>
+        <translation>Verhalten</translation>
+    </message>
+    <message>
+        <source>Gestures</source>
+        <translation>Gesten</translation>
+    </message>
+    <message>
+        <source>Size and place</source>
+        <translation>Größe und Ort</translation>
+    </message>
+    <message>
+        <source>Start and sharing</source>
+        <translation>Start und Teilen</translation>
+    </message>
+    <message>
+        <source>Quillmere Settings</source>
+        <translation>Quillmere-Einstellungen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>Akku</translation>
+    </message>
+    <message>
+        <source>Connectivity</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>Google</source>
+        <translation>Google</translation>
+    </message>
+    <message>
+        <source>Discord</source>
+        <translation>Discord</translation>
+    </message>
+    <message>
+        <source>Slack</source>
+        <translation>Slack</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Fokus</translation>
+    </message>
+    <message>
+        <source>Quillmere does not follow the desktop&apos;s do-not-disturb yet, so there is nothing to set here.</source>
+        <translation>Quillmere folgt „Nicht stören“ des Desktops noch nicht, darum gibt es hier nichts einzustellen.</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <source>Now Playing</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>File Tray</source>
+        <translation>Dateiablage</translation>
+    </message>
+    <message>
+        <source>Lock Screen</source>
+        <translation>Sperrbildschirm</translation>
+    </message>
+    <message>
+        <source>Quillmere shows nothing on the lock screen yet, so there is nothing to set here.</source>
+        <translation>Quillmere zeigt auf dem Sperrbildschirm noch nichts, darum gibt es hier nichts einzustellen.</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Quillmere keeps no history of the clipboard yet, so there is nothing to set here.</source>
+        <translation>Quillmere führt noch keinen Verlauf der Zwischenablage, darum gibt es hier nichts einzustellen.</translation>
+    </message>
+    <message>
+        <source>Pomodoro</source>
+        <translation>Pomodoro</translation>
+    </message>
+    <message>
+        <source>Camera Mirror</source>
+        <translation>Kameraspiegel</translation>
+    </message>
+    <message>
+        <source>Quillmere has no camera mirror yet, so there is nothing to set here.</source>
+        <translation>Quillmere hat noch keinen Kameraspiegel, darum gibt es hier nichts einzustellen.</translation>
+    </message>
+    <message>
+        <source>Network Speed</source>
+        <translation>Netzgeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Quillmere does not measure the network yet, so there is nothing to set here.</source>
+        <translation>Quillmere misst das Netz noch nicht, darum gibt es hier nichts einzustellen.</translation>
+    </message>
+    <message>
+        <source>System Monitor</source>
+        <translation>Systemmonitor</translation>
+    </message>
+    <message>
+        <source>Claude Code</source>
+        <translation>Claude Code</translation>
+    </message>
+    <message>
+        <source>App Shortcuts</source>
+        <translation>App-Kurzbefehle</translation>
+    </message>
+    <message>
+        <source>Quillmere has no shortcuts to applications yet, so there is nothing to set here.</source>
+        <translation>Quillmere hat noch keine Kurzbefehle für Programme, darum gibt es hier nichts einzustellen.</translation>
+    </message>
+    <message>
+        <source>Quick Notes</source>
+        <translation>Schnellnotizen</translation>
+    </message>
+    <message>
+        <source>Quillmere takes no notes yet, so there is nothing to set here.</source>
+        <translation>Quillmere nimmt noch keine Notizen auf, darum gibt es hier nichts einzustellen.</translation>
+    </message>
+    <message>
+        <source>Bookmarks</source>
+        <translation>Lesezeichen</translation>
+    </message>
+    <message>
+        <source>Quillmere keeps no bookmarks yet, so there is nothing to set here.</source>
+        <translation>Quillmere führt noch keine Lesezeichen, darum gibt es hier nichts einzustellen.</translation>
+    </message>
+    <message>
+        <source>Countdown Timer</source>
+        <translation>Countdown-Timer</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <translation>Erinnerungen</translation>
+    </message>
+    <message>
+        <source>Quillmere reads no reminders yet, so there is nothing to set here.</source>
+        <translation>Quillmere liest noch keine Erinnerungen, darum gibt es hier nichts einzustellen.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
     </message>
 </context>
 <context>
@@ -844,6 +2100,21 @@
     <message>
         <source>minutes must be a whole number from %1 to %2</source>
         <translation>minutes muss eine ganze Zahl von %1 bis %2 sein</translation>
+    </message>
+</context>
+<context>
+    <name>Sidebar</name>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
     </message>
 </context>
 <context>

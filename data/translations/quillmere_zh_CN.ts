@@ -520,6 +520,13 @@
     </message>
 </context>
 <context>
+    <name>PageView</name>
+    <message>
+        <source>Reset this page</source>
+        <translation>重置本页</translation>
+    </message>
+</context>
+<context>
     <name>PlaceSearchPanel</name>
     <message>
         <source>City or place</source>
@@ -583,6 +590,13 @@
     </message>
 </context>
 <context>
+    <name>PreviewStrip</name>
+    <message>
+        <source>The open island</source>
+        <translation>展开的小岛</translation>
+    </message>
+</context>
+<context>
     <name>QuillmereShortcuts</name>
     <message>
         <source>minute</source>
@@ -642,6 +656,1248 @@
     <message>
         <source>Position</source>
         <translation>播放位置</translation>
+    </message>
+</context>
+<context>
+    <name>SearchField</name>
+    <message>
+        <source>Search settings</source>
+        <translation>搜索设置</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>Show new mail</source>
+        <translation>显示新邮件</translation>
+    </message>
+    <message>
+        <source>Sender and subject, as mail arrives.</source>
+        <translation>邮件到达时显示发件人和主题。</translation>
+    </message>
+    <message>
+        <source>Show for</source>
+        <translation>显示时长</translation>
+    </message>
+    <message>
+        <source>How long a mail stays on the island.</source>
+        <translation>邮件在小岛上停留的时间。</translation>
+    </message>
+    <message>
+        <source>Look every</source>
+        <translation>检查间隔</translation>
+    </message>
+    <message>
+        <source>How often the mail folders are looked at.</source>
+        <translation>检查邮件文件夹的频率。</translation>
+    </message>
+    <message>
+        <source>Show new Gmail messages</source>
+        <translation>显示新的 Gmail 邮件</translation>
+    </message>
+    <message>
+        <source>Sender and subject of unread messages in the inbox.</source>
+        <translation>收件箱中未读邮件的发件人和主题。</translation>
+    </message>
+    <message>
+        <source>Show coming events</source>
+        <translation>显示即将开始的日程</translation>
+    </message>
+    <message>
+        <source>Events of your Google calendar, before they begin.</source>
+        <translation>在 Google 日历的日程开始前显示。</translation>
+    </message>
+    <message>
+        <source>Tell of events</source>
+        <translation>提前提醒</translation>
+    </message>
+    <message>
+        <source>How long before they begin.</source>
+        <translation>日程开始前多久提醒。</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message>
+        <source>How often Google is asked for news.</source>
+        <translation>向 Google 查询新内容的频率。</translation>
+    </message>
+    <message>
+        <source>Client ID</source>
+        <translation>客户端 ID</translation>
+    </message>
+    <message>
+        <source>Of a Google project of your own; empty for the built-in one.</source>
+        <translation>您自己的 Google 项目的 ID；留空则使用内置的。</translation>
+    </message>
+    <message>
+        <source>Show messages</source>
+        <translation>显示消息</translation>
+    </message>
+    <message>
+        <source>Who wrote and what, as it comes.</source>
+        <translation>消息到达时显示发送者和内容。</translation>
+    </message>
+    <message>
+        <source>How long a message stays on the island.</source>
+        <translation>消息在小岛上停留的时间。</translation>
+    </message>
+    <message>
+        <source>How often stored notifications are looked at. What the desktop announces is shown at once.</source>
+        <translation>检查已存储通知的频率。桌面发布的通知会立即显示。</translation>
+    </message>
+    <message>
+        <source>New mail</source>
+        <translation>新邮件</translation>
+    </message>
+    <message>
+        <source>Gmail and calendar</source>
+        <translation>Gmail 和日历</translation>
+    </message>
+    <message>
+        <source>Access</source>
+        <translation>访问权限</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>正在充电</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>平滑</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>快速</translation>
+    </message>
+    <message>
+        <source>Instant</source>
+        <translation>即时</translation>
+    </message>
+    <message>
+        <source>Keep size</source>
+        <translation>保持大小</translation>
+    </message>
+    <message>
+        <source>Grow</source>
+        <translation>随之变大</translation>
+    </message>
+    <message>
+        <source>Display messages</source>
+        <translation>显示器消息</translation>
+    </message>
+    <message>
+        <source>All that the display has to tell; off is off for all.</source>
+        <translation>显示器的所有消息；关闭则全部关闭。</translation>
+    </message>
+    <message>
+        <source>Show the brightness</source>
+        <translation>显示亮度</translation>
+    </message>
+    <message>
+        <source>When you change it. What the machine does is not shown.</source>
+        <translation>在您调节时显示。电脑自动调节时不显示。</translation>
+    </message>
+    <message>
+        <source>How long the brightness stays on the island.</source>
+        <translation>亮度在小岛上停留的时间。</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>样式</translation>
+    </message>
+    <message>
+        <source>The colour of the bar.</source>
+        <translation>进度条的颜色。</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白色</translation>
+    </message>
+    <message>
+        <source>Accent</source>
+        <translation>强调色</translation>
+    </message>
+    <message>
+        <source>Glow</source>
+        <translation>发光</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>动效</translation>
+    </message>
+    <message>
+        <source>How the bar gets to a new level.</source>
+        <translation>进度条到达新位置的方式。</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>图标</translation>
+    </message>
+    <message>
+        <source>Whether the sun grows with the level.</source>
+        <translation>太阳图标是否随亮度变大。</translation>
+    </message>
+    <message>
+        <source>Show the percentage</source>
+        <translation>显示百分比</translation>
+    </message>
+    <message>
+        <source>A figure beside the bar.</source>
+        <translation>在进度条旁显示数字。</translation>
+    </message>
+    <message>
+        <source>Hide the label</source>
+        <translation>隐藏标签</translation>
+    </message>
+    <message>
+        <source>Without the word Min at the dark end.</source>
+        <translation>最暗时不显示“最低”字样。</translation>
+    </message>
+    <message>
+        <source>No bump at the ends</source>
+        <translation>到头时不回弹</translation>
+    </message>
+    <message>
+        <source>The bar stops short instead of bouncing.</source>
+        <translation>进度条直接停住，不回弹。</translation>
+    </message>
+    <message>
+        <source>Sound messages</source>
+        <translation>声音消息</translation>
+    </message>
+    <message>
+        <source>All that sound has to tell; off is off for all.</source>
+        <translation>声音的所有消息；关闭则全部关闭。</translation>
+    </message>
+    <message>
+        <source>Show the volume</source>
+        <translation>显示音量</translation>
+    </message>
+    <message>
+        <source>When it changes, by whom ever.</source>
+        <translation>音量变化时显示，无论由谁调节。</translation>
+    </message>
+    <message>
+        <source>How long the volume stays on the island.</source>
+        <translation>音量在小岛上停留的时间。</translation>
+    </message>
+    <message>
+        <source>Scroll to change the volume</source>
+        <translation>滚动调节音量</translation>
+    </message>
+    <message>
+        <source>With the pointer over the resting pill.</source>
+        <translation>指针位于收起的小岛上时。</translation>
+    </message>
+    <message>
+        <source>Loudness</source>
+        <translation>响度</translation>
+    </message>
+    <message>
+        <source>A speaker, or the device that sounds.</source>
+        <translation>显示扬声器，或正在发声的设备。</translation>
+    </message>
+    <message>
+        <source>Speaker</source>
+        <translation>扬声器</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>Size of the symbol</source>
+        <translation>图标大小</translation>
+    </message>
+    <message>
+        <source>Whether the symbol grows with the level.</source>
+        <translation>图标是否随音量变大。</translation>
+    </message>
+    <message>
+        <source>Without the word Mute at the silent end.</source>
+        <translation>静音时不显示“静音”字样。</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>The power service does not answer. Install the package upower.</source>
+        <translation>电源服务没有响应。请安装软件包 upower。</translation>
+    </message>
+    <message>
+        <source>This machine has no battery.</source>
+        <translation>这台电脑没有电池。</translation>
+    </message>
+    <message>
+        <source>This desktop has no way to leave a window out of screen captures.</source>
+        <translation>此桌面无法把窗口排除在截屏之外。</translation>
+    </message>
+    <message>
+        <source>This desktop decides by itself what its overview shows.</source>
+        <translation>此桌面自行决定概览中显示的内容。</translation>
+    </message>
+    <message>
+        <source>This desktop does not tell which window fills the screen.</source>
+        <translation>此桌面不会告知哪个窗口占满屏幕。</translation>
+    </message>
+    <message>
+        <source>This desktop tells of a drag only once it is over the island.</source>
+        <translation>此桌面只在拖动到小岛上方时才会告知。</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>状态栏</translation>
+    </message>
+    <message>
+        <source>This desktop has no place for status icons, so there is no menu there. On GNOME, the AppIndicator extension adds one.</source>
+        <translation>此桌面没有状态图标区域，因此那里没有菜单。在 GNOME 上，AppIndicator 扩展可以添加。</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>桌面</translation>
+    </message>
+    <message>
+        <source>This machine</source>
+        <translation>这台电脑</translation>
+    </message>
+    <message>
+        <source>The battery is at %1 %.</source>
+        <translation>电池电量 %1%。</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>已找到</translation>
+    </message>
+    <message>
+        <source>This display</source>
+        <translation>此显示器</translation>
+    </message>
+    <message>
+        <source>Its brightness is %1 %.</source>
+        <translation>亮度为 %1%。</translation>
+    </message>
+    <message>
+        <source>No display here tells its brightness. For an external one, load the module i2c-dev and join the group i2c.</source>
+        <translation>没有显示器告知亮度。对于外接显示器，请加载模块 i2c-dev 并加入用户组 i2c。</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>输出</translation>
+    </message>
+    <message>
+        <source>No sound server answers. Start it with: systemctl --user start pipewire-pulse</source>
+        <translation>没有声音服务器响应。用以下命令启动：systemctl --user start pipewire-pulse</translation>
+    </message>
+    <message>
+        <source>Mail folders</source>
+        <translation>邮件文件夹</translation>
+    </message>
+    <message>
+        <source>Looking…</source>
+        <translation>正在查找…</translation>
+    </message>
+    <message>
+        <source>No mail was found here: no Maildir, mbox or notmuch, and no Thunderbird or Evolution. A program unread-mail of your own in the folder scripts beside the settings can answer instead.</source>
+        <translation>这里没有找到邮件：没有 Maildir、mbox 或 notmuch，也没有 Thunderbird 或 Evolution。可以在设置旁的 scripts 文件夹中放置您自己的 unread-mail 程序来代替。</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>测试</translation>
+    </message>
+    <message>
+        <source>Shows a mail as it would come.</source>
+        <translation>按邮件到达时的样子显示一封。</translation>
+    </message>
+    <message>
+        <source>Send a test</source>
+        <translation>发送测试</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>来源</translation>
+    </message>
+    <message>
+        <source>Where from</source>
+        <translation>来自哪里</translation>
+    </message>
+    <message>
+        <source>From the notifications the application shows on this desktop. Turn them on there; nothing is read elsewhere.</source>
+        <translation>来自该应用在此桌面上显示的通知。请在应用中打开通知；不会读取其他内容。</translation>
+    </message>
+    <message>
+        <source>Shows the last message that came.</source>
+        <translation>显示最近收到的消息。</translation>
+    </message>
+    <message>
+        <source>Playing now</source>
+        <translation>正在播放</translation>
+    </message>
+    <message>
+        <source>There is no session bus, so no player can be asked.</source>
+        <translation>没有会话总线，因此无法询问播放器。</translation>
+    </message>
+    <message>
+        <source>Browser tabs</source>
+        <translation>浏览器标签页</translation>
+    </message>
+    <message>
+        <source>Chromium and its kin tell of their tabs only when they are started so: chromium --remote-debugging-port=0</source>
+        <translation>Chromium 及同类浏览器只有这样启动才会告知标签页：chromium --remote-debugging-port=0</translation>
+    </message>
+    <message>
+        <source>No player plays anything.</source>
+        <translation>没有播放器在播放。</translation>
+    </message>
+    <message>
+        <source>%1, from %2</source>
+        <translation>%1，来自 %2</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>地点</translation>
+    </message>
+    <message>
+        <source>Weather now</source>
+        <translation>当前天气</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>%1, as you typed it.</source>
+        <translation>%1，由您输入。</translation>
+    </message>
+    <message>
+        <source>Forget it</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Where this machine is, as its location service tells.</source>
+        <translation>由定位服务告知的这台电脑的位置。</translation>
+    </message>
+    <message>
+        <source>Nobody was asked yet. You can also type a place on the island.</source>
+        <translation>尚未询问。您也可以在小岛上输入地点。</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>询问</translation>
+    </message>
+    <message>
+        <source>The location is refused. Allow it in the privacy settings of the desktop, or type a place on the island.</source>
+        <translation>位置被拒绝。请在桌面的隐私设置中允许，或在小岛上输入地点。</translation>
+    </message>
+    <message>
+        <source>There is no location service. Install the package geoclue-2.0, or type a place on the island.</source>
+        <translation>没有定位服务。请安装软件包 geoclue-2.0，或在小岛上输入地点。</translation>
+    </message>
+    <message>
+        <source>None was reported yet.</source>
+        <translation>尚无报告。</translation>
+    </message>
+    <message>
+        <source>%1: %2 %3, %4</source>
+        <translation>%1：%2 %3，%4</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>许可证</translation>
+    </message>
+    <message>
+        <source>MIT License</source>
+        <translation>MIT 许可证</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>阅读</translation>
+    </message>
+    <message>
+        <source>Log folder</source>
+        <translation>日志文件夹</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>First steps</source>
+        <translation>首次设置</translation>
+    </message>
+    <message>
+        <source>What was shown when Quillmere first started.</source>
+        <translation>Quillmere 首次启动时显示的内容。</translation>
+    </message>
+    <message>
+        <source>Show again</source>
+        <translation>再次显示</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Quillmere</source>
+        <translation>Quillmere</translation>
+    </message>
+    <message>
+        <source>Monochrome</source>
+        <translation>单色</translation>
+    </message>
+    <message>
+        <source>Coloured</source>
+        <translation>彩色</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>渐变</translation>
+    </message>
+    <message>
+        <source>Show media</source>
+        <translation>显示媒体</translation>
+    </message>
+    <message>
+        <source>Artwork and waveform beside the notch while something plays.</source>
+        <translation>播放时在凹口旁显示封面和波形。</translation>
+    </message>
+    <message>
+        <source>Hide while the player is in front</source>
+        <translation>播放器在前台时隐藏</translation>
+    </message>
+    <message>
+        <source>Nothing doubles what you already look at.</source>
+        <translation>不重复显示您正在看的内容。</translation>
+    </message>
+    <message>
+        <source>Keep after pausing</source>
+        <translation>暂停后保留</translation>
+    </message>
+    <message>
+        <source>How long a paused track stays on the island.</source>
+        <translation>暂停的曲目在小岛上停留的时间。</translation>
+    </message>
+    <message>
+        <source>Expanded</source>
+        <translation>展开时</translation>
+    </message>
+    <message>
+        <source>Style of the waveform in the dashboard.</source>
+        <translation>面板中波形的样式。</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>收起时</translation>
+    </message>
+    <message>
+        <source>Style of the waveform beside the notch.</source>
+        <translation>凹口旁波形的样式。</translation>
+    </message>
+    <message>
+        <source>No waveform beside the notch</source>
+        <translation>凹口旁不显示波形</translation>
+    </message>
+    <message>
+        <source>Only the artwork stays there.</source>
+        <translation>只保留封面。</translation>
+    </message>
+    <message>
+        <source>Extra button</source>
+        <translation>附加按钮</translation>
+    </message>
+    <message>
+        <source>Where the player cannot do it, there is none.</source>
+        <translation>播放器不支持时不显示。</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>收藏</translation>
+    </message>
+    <message>
+        <source>Shuffle</source>
+        <translation>随机播放</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>重复播放</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Short titles</source>
+        <translation>简短曲名</translation>
+    </message>
+    <message>
+        <source>Leaves out what is in brackets: remasters, guests.</source>
+        <translation>省略括号中的内容：重制版、嘉宾等。</translation>
+    </message>
+    <message>
+        <source>Colours of the artwork</source>
+        <translation>封面颜色</translation>
+    </message>
+    <message>
+        <source>Waveform and buttons take the artwork&apos;s main colour.</source>
+        <translation>波形和按钮采用封面的主色。</translation>
+    </message>
+    <message>
+        <source>Artwork does not turn over</source>
+        <translation>封面不翻转</translation>
+    </message>
+    <message>
+        <source>A new cover fades in instead.</source>
+        <translation>新封面改为淡入。</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>The player that plays, then a browser tab.</source>
+        <translation>正在播放的播放器，其次是浏览器标签页。</translation>
+    </message>
+    <message>
+        <source>Show changes of the weather</source>
+        <translation>显示天气变化</translation>
+    </message>
+    <message>
+        <source>When it turns, and once when you start your day.</source>
+        <translation>天气转变时，以及每天开始时一次。</translation>
+    </message>
+    <message>
+        <source>Fahrenheit</source>
+        <translation>华氏度</translation>
+    </message>
+    <message>
+        <source>Temperatures in °F instead of °C.</source>
+        <translation>温度以 °F 而非 °C 显示。</translation>
+    </message>
+    <message>
+        <source>File tray</source>
+        <translation>文件托盘</translation>
+    </message>
+    <message>
+        <source>Files dropped on the island stay on a page of their own.</source>
+        <translation>拖放到小岛上的文件保存在单独的页面。</translation>
+    </message>
+    <message>
+        <source>Keep at most</source>
+        <translation>最多保留</translation>
+    </message>
+    <message>
+        <source>The oldest file leaves first.</source>
+        <translation>最早的文件先移除。</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 个文件</translation>
+    </message>
+    <message>
+        <source>Island</source>
+        <translation>小岛</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>波形</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>曲目</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>天气</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>托盘</translation>
+    </message>
+    <message>
+        <source>Focus timer</source>
+        <translation>专注计时</translation>
+    </message>
+    <message>
+        <source>Work and breaks by the clock, on a page of the island.</source>
+        <translation>在小岛的页面上按时工作和休息。</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>工作</translation>
+    </message>
+    <message>
+        <source>Length of a session.</source>
+        <translation>每个时段的长度。</translation>
+    </message>
+    <message>
+        <source>Short break</source>
+        <translation>短休息</translation>
+    </message>
+    <message>
+        <source>After a session.</source>
+        <translation>每个时段之后。</translation>
+    </message>
+    <message>
+        <source>Long break</source>
+        <translation>长休息</translation>
+    </message>
+    <message>
+        <source>After every fourth session.</source>
+        <translation>每四个时段之后。</translation>
+    </message>
+    <message>
+        <source>System monitor</source>
+        <translation>系统监视</translation>
+    </message>
+    <message>
+        <source>Processor, memory and disk on a page of the island.</source>
+        <translation>在小岛的页面上显示处理器、内存和磁盘。</translation>
+    </message>
+    <message>
+        <source>Show the assistant</source>
+        <translation>显示助手</translation>
+    </message>
+    <message>
+        <source>What Claude Code does, beside the notch. Puts a hook into its settings while it is on, and takes it out again.</source>
+        <translation>在凹口旁显示 Claude Code 的动态。打开时会在其设置中加入钩子，关闭时移除。</translation>
+    </message>
+    <message>
+        <source>Countdown and stopwatch</source>
+        <translation>倒计时和秒表</translation>
+    </message>
+    <message>
+        <source>A timer and a stopwatch on a page of the island.</source>
+        <translation>在小岛的页面上显示计时器和秒表。</translation>
+    </message>
+    <message>
+        <source>Debug log</source>
+        <translation>调试日志</translation>
+    </message>
+    <message>
+        <source>Writes what happens and why, for finding faults.</source>
+        <translation>记录发生的事情及原因，用于排查故障。</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>负载</translation>
+    </message>
+    <message>
+        <source>Assistant</source>
+        <translation>助手</translation>
+    </message>
+    <message>
+        <source>Timers</source>
+        <translation>计时器</translation>
+    </message>
+    <message>
+        <source>Finding faults</source>
+        <translation>故障排查</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Show power changes</source>
+        <translation>显示电源变化</translation>
+    </message>
+    <message>
+        <source>When the charger goes in or out, and when it is full.</source>
+        <translation>插拔充电器以及充满时显示。</translation>
+    </message>
+    <message>
+        <source>How long a message about the battery stays.</source>
+        <translation>电池消息停留的时间。</translation>
+    </message>
+    <message>
+        <source>The picture of the battery says enough.</source>
+        <translation>电池图标已足够说明。</translation>
+    </message>
+    <message>
+        <source>Hide the percentage</source>
+        <translation>隐藏百分比</translation>
+    </message>
+    <message>
+        <source>No figure beside the battery.</source>
+        <translation>电池旁不显示数字。</translation>
+    </message>
+    <message>
+        <source>Power saver</source>
+        <translation>省电模式</translation>
+    </message>
+    <message>
+        <source>Tells when the machine begins to save power.</source>
+        <translation>电脑开始省电时告知。</translation>
+    </message>
+    <message>
+        <source>Warn of a low battery</source>
+        <translation>电量低时警告</translation>
+    </message>
+    <message>
+        <source>Once each time the charge falls below the limit.</source>
+        <translation>每次电量低于界限时警告一次。</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>界限</translation>
+    </message>
+    <message>
+        <source>The charge from which the battery counts as low.</source>
+        <translation>低于此电量视为电量低。</translation>
+    </message>
+    <message>
+        <source>Play a sound</source>
+        <translation>播放声音</translation>
+    </message>
+    <message>
+        <source>Together with the warning.</source>
+        <translation>与警告同时播放。</translation>
+    </message>
+    <message>
+        <source>Show devices that connect</source>
+        <translation>显示连接的设备</translation>
+    </message>
+    <message>
+        <source>Headphones and speakers, with their charge.</source>
+        <translation>耳机和扬声器及其电量。</translation>
+    </message>
+    <message>
+        <source>How long a device stays on the island.</source>
+        <translation>设备在小岛上停留的时间。</translation>
+    </message>
+    <message>
+        <source>Warn of a low device</source>
+        <translation>设备电量低时警告</translation>
+    </message>
+    <message>
+        <source>Once each time a device&apos;s charge falls below the limit.</source>
+        <translation>每次设备电量低于界限时警告一次。</translation>
+    </message>
+    <message>
+        <source>The charge from which a device counts as low.</source>
+        <translation>低于此电量的设备视为电量低。</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>电源</translation>
+    </message>
+    <message>
+        <source>Low battery</source>
+        <translation>电量不足</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>蓝牙</translation>
+    </message>
+    <message>
+        <source>Low charge</source>
+        <translation>设备电量不足</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 点</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>How the open island is drawn. The pill is always black.</source>
+        <translation>展开的小岛的绘制方式。收起时始终为黑色。</translation>
+    </message>
+    <message>
+        <source>Glass</source>
+        <translation>玻璃</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>经典</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>透明度</translation>
+    </message>
+    <message>
+        <source>How much of the wallpaper the glass lets through.</source>
+        <translation>玻璃透出多少壁纸。</translation>
+    </message>
+    <message>
+        <source>Use the accent colour</source>
+        <translation>使用强调色</translation>
+    </message>
+    <message>
+        <source>Marks and bars take the desktop&apos;s accent colour.</source>
+        <translation>标记和进度条采用桌面的强调色。</translation>
+    </message>
+    <message>
+        <source>Open on hover</source>
+        <translation>悬停时展开</translation>
+    </message>
+    <message>
+        <source>The pointer alone opens the island, without a click.</source>
+        <translation>只需移动指针即可展开小岛，无需点击。</translation>
+    </message>
+    <message>
+        <source>Close after</source>
+        <translation>自动收起</translation>
+    </message>
+    <message>
+        <source>How long the island stays open once the pointer left.</source>
+        <translation>指针离开后小岛保持展开的时间。</translation>
+    </message>
+    <message>
+        <source>Haptic feedback</source>
+        <translation>触感反馈</translation>
+    </message>
+    <message>
+        <source>A short buzz on devices that have a motor for it.</source>
+        <translation>在带有马达的设备上短暂振动。</translation>
+    </message>
+    <message>
+        <source>Beside the notch</source>
+        <translation>凹口旁</translation>
+    </message>
+    <message>
+        <source>What the resting pill shows. The calendar has nothing to show there yet.</source>
+        <translation>收起的小岛显示的内容。日历目前还没有可显示的内容。</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>媒体</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>日历</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>两者</translation>
+    </message>
+    <message>
+        <source>Show the last event</source>
+        <translation>显示最近的事件</translation>
+    </message>
+    <message>
+        <source>With nothing else beside the notch, what came last.</source>
+        <translation>凹口旁没有其他内容时，显示最近发生的事。</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>屏幕</translation>
+    </message>
+    <message>
+        <source>Which screen carries the island.</source>
+        <translation>小岛显示在哪个屏幕上。</translation>
+    </message>
+    <message>
+        <source>Built-in</source>
+        <translation>内置</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>主屏幕</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>活动屏幕</translation>
+    </message>
+    <message>
+        <source>Width of the pill</source>
+        <translation>小岛宽度</translation>
+    </message>
+    <message>
+        <source>On screens without a camera housing; 60 to 600.</source>
+        <translation>用于没有摄像头凹口的屏幕；60 到 600。</translation>
+    </message>
+    <message>
+        <source>Height of the pill</source>
+        <translation>小岛高度</translation>
+    </message>
+    <message>
+        <source>On screens without a camera housing; 20 to 100.</source>
+        <translation>用于没有摄像头凹口的屏幕；20 到 100。</translation>
+    </message>
+    <message>
+        <source>Hide over full-screen windows</source>
+        <translation>在全屏窗口上隐藏</translation>
+    </message>
+    <message>
+        <source>The resting pill goes away; what happens is still shown.</source>
+        <translation>收起的小岛会消失；有事发生时仍会显示。</translation>
+    </message>
+    <message>
+        <source>Silent over full-screen windows</source>
+        <translation>在全屏窗口上静默</translation>
+    </message>
+    <message>
+        <source>Nothing at all is shown over a full-screen window.</source>
+        <translation>在全屏窗口上不显示任何内容。</translation>
+    </message>
+    <message>
+        <source>Hide in the overview</source>
+        <translation>在概览中隐藏</translation>
+    </message>
+    <message>
+        <source>Leaves the island out of the desktop&apos;s overview.</source>
+        <translation>桌面概览中不显示小岛。</translation>
+    </message>
+    <message>
+        <source>Hide from screen capture</source>
+        <translation>在截屏中隐藏</translation>
+    </message>
+    <message>
+        <source>Leaves the island out of screenshots and recordings.</source>
+        <translation>截图和录屏中不包含小岛。</translation>
+    </message>
+    <message>
+        <source>Swipe to open and close</source>
+        <translation>滑动展开和收起</translation>
+    </message>
+    <message>
+        <source>Down opens the island, up closes it.</source>
+        <translation>向下展开小岛，向上收起。</translation>
+    </message>
+    <message>
+        <source>Swipe through events</source>
+        <translation>滑动浏览事件</translation>
+    </message>
+    <message>
+        <source>Sideways goes through what came lately.</source>
+        <translation>左右滑动浏览最近的事件。</translation>
+    </message>
+    <message>
+        <source>Swipe to dismiss</source>
+        <translation>滑动忽略</translation>
+    </message>
+    <message>
+        <source>Up takes away what is shown beside the notch.</source>
+        <translation>向上滑动移除凹口旁显示的内容。</translation>
+    </message>
+    <message>
+        <source>Swipe to skip a track</source>
+        <translation>滑动切换曲目</translation>
+    </message>
+    <message>
+        <source>Sideways over playing media goes to the next or last.</source>
+        <translation>在播放的媒体上左右滑动切换上一首或下一首。</translation>
+    </message>
+    <message>
+        <source>Natural direction</source>
+        <translation>自然方向</translation>
+    </message>
+    <message>
+        <source>Content follows the fingers instead of the scroll bar.</source>
+        <translation>内容跟随手指，而非滚动条。</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>登录时启动</translation>
+    </message>
+    <message>
+        <source>Quillmere is there as soon as you are.</source>
+        <translation>您一登录，Quillmere 就在。</translation>
+    </message>
+    <message>
+        <source>Share settings</source>
+        <translation>共享设置</translation>
+    </message>
+    <message>
+        <source>Through the folder below, from the next start on.</source>
+        <translation>通过下面的文件夹，下次启动时生效。</translation>
+    </message>
+    <message>
+        <source>Shared folder</source>
+        <translation>共享文件夹</translation>
+    </message>
+    <message>
+        <source>One that Nextcloud, Syncthing or the like carries to your other machines. Used from the next start on.</source>
+        <translation>由 Nextcloud、Syncthing 等同步到您其他电脑的文件夹。下次启动时生效。</translation>
+    </message>
+    <message>
+        <source>Behaviour</source>
+        <translation>行为</translation>
+    </message>
+    <message>
+        <source>Gestures</source>
+        <translation>手势</translation>
+    </message>
+    <message>
+        <source>Size and place</source>
+        <translation>大小和位置</translation>
+    </message>
+    <message>
+        <source>Start and sharing</source>
+        <translation>启动和共享</translation>
+    </message>
+    <message>
+        <source>Quillmere Settings</source>
+        <translation>Quillmere 设置</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>通用</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>电池</translation>
+    </message>
+    <message>
+        <source>Connectivity</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>电子邮件</translation>
+    </message>
+    <message>
+        <source>Google</source>
+        <translation>Google</translation>
+    </message>
+    <message>
+        <source>Discord</source>
+        <translation>Discord</translation>
+    </message>
+    <message>
+        <source>Slack</source>
+        <translation>Slack</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>专注</translation>
+    </message>
+    <message>
+        <source>Quillmere does not follow the desktop&apos;s do-not-disturb yet, so there is nothing to set here.</source>
+        <translation>Quillmere 尚未跟随桌面的勿扰模式，因此这里没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>显示器</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>声音</translation>
+    </message>
+    <message>
+        <source>Now Playing</source>
+        <translation>正在播放</translation>
+    </message>
+    <message>
+        <source>File Tray</source>
+        <translation>文件托盘</translation>
+    </message>
+    <message>
+        <source>Lock Screen</source>
+        <translation>锁屏</translation>
+    </message>
+    <message>
+        <source>Quillmere shows nothing on the lock screen yet, so there is nothing to set here.</source>
+        <translation>Quillmere 尚不在锁屏上显示内容，因此这里没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>剪贴板</translation>
+    </message>
+    <message>
+        <source>Quillmere keeps no history of the clipboard yet, so there is nothing to set here.</source>
+        <translation>Quillmere 尚不保存剪贴板历史，因此这里没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>Pomodoro</source>
+        <translation>番茄钟</translation>
+    </message>
+    <message>
+        <source>Camera Mirror</source>
+        <translation>相机镜子</translation>
+    </message>
+    <message>
+        <source>Quillmere has no camera mirror yet, so there is nothing to set here.</source>
+        <translation>Quillmere 尚无相机镜子，因此这里没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>Network Speed</source>
+        <translation>网速</translation>
+    </message>
+    <message>
+        <source>Quillmere does not measure the network yet, so there is nothing to set here.</source>
+        <translation>Quillmere 尚不测量网络，因此这里没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>System Monitor</source>
+        <translation>系统监视</translation>
+    </message>
+    <message>
+        <source>Claude Code</source>
+        <translation>Claude Code</translation>
+    </message>
+    <message>
+        <source>App Shortcuts</source>
+        <translation>应用快捷方式</translation>
+    </message>
+    <message>
+        <source>Quillmere has no shortcuts to applications yet, so there is nothing to set here.</source>
+        <translation>Quillmere 尚无应用快捷方式，因此这里没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>Quick Notes</source>
+        <translation>快速笔记</translation>
+    </message>
+    <message>
+        <source>Quillmere takes no notes yet, so there is nothing to set here.</source>
+        <translation>Quillmere 尚不支持笔记，因此这里没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>Bookmarks</source>
+        <translation>书签</translation>
+    </message>
+    <message>
+        <source>Quillmere keeps no bookmarks yet, so there is nothing to set here.</source>
+        <translation>Quillmere 尚不保存书签，因此这里没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>Countdown Timer</source>
+        <translation>倒计时</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <translation>提醒事项</translation>
+    </message>
+    <message>
+        <source>Quillmere reads no reminders yet, so there is nothing to set here.</source>
+        <translation>Quillmere 尚不读取提醒事项，因此这里没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
     </message>
 </context>
 <context>
@@ -843,6 +2099,21 @@
     <message>
         <source>minutes must be a whole number from %1 to %2</source>
         <translation>minutes 必须是 %1 到 %2 之间的整数</translation>
+    </message>
+</context>
+<context>
+    <name>Sidebar</name>
+    <message>
+        <source>Results</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>未找到结果</translation>
     </message>
 </context>
 <context>
