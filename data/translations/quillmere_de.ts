@@ -902,7 +902,7 @@
     </message>
     <message>
         <source>Loudness</source>
-        <translation>Lautstärkesymbol</translation>
+        <translation>Nach Pegel</translation>
     </message>
     <message>
         <source>A speaker, or the device that sounds.</source>

@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>Loudness</source>
-        <translation>响度</translation>
+        <translation>按响度</translation>
     </message>
     <message>
         <source>A speaker, or the device that sounds.</source>
