@@ -18,7 +18,7 @@ bool isMaildir(const std::string &path);
 
 UnreadMessages readMaildir(const std::string &path, MailFlags flags);
 
-/// Counts what is in the last 16 MiB.
+/// Counts what is in the last 16 MiB. An index of Thunderbird's beside it goes before the headers.
 UnreadMessages readMbox(const std::string &path);
 
 /// The mail of notmuch that is in the inbox and unread; absent where notmuch is not set up.

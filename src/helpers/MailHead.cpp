@@ -2,6 +2,7 @@
 
 #include "helpers/Files.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace quillmere {
@@ -60,6 +61,24 @@ bool isSeenByHeader(std::string_view message)
         return true;
     });
     return isSeen;
+}
+
+std::string messageId(std::string_view message)
+{
+    constexpr std::string_view name("message-id:");
+    std::string id;
+    eachHeaderLine(message, [&](std::string_view line) {
+        const auto isSame = [](char one, char other) { return (one | 0x20) == (other | 0x20); };
+        if (line.size() < name.size() ||
+            !std::equal(name.begin(), name.end(), line.begin(), isSame))
+            return true;
+        const auto begin = line.find('<');
+        const auto end = line.find('>', begin);
+        if (begin != std::string_view::npos && end != std::string_view::npos)
+            id = line.substr(begin + 1, end - begin - 1);
+        return false;
+    });
+    return id;
 }
 
 } // namespace quillmere

@@ -1,6 +1,7 @@
 #include "helpers/Files.h"
 #include "helpers/MailBoxes.h"
 #include "helpers/MailHead.h"
+#include "helpers/MorkFlags.h"
 
 #include <ctime>
 
@@ -46,6 +47,12 @@ std::int64_t arrivalIn(std::string_view line)
     return static_cast<std::int64_t>(std::mktime(&parts)) * second;
 }
 
+bool isSeen(std::string_view message, const std::optional<MorkFlags> &index)
+{
+    const auto told = index ? index->isSeen(messageId(message)) : std::nullopt;
+    return told.value_or(isSeenByHeader(message));
+}
+
 } // namespace
 
 UnreadMessages readMbox(const std::string &path)
@@ -53,12 +60,13 @@ UnreadMessages readMbox(const std::string &path)
     UnreadMessages unread;
     const auto bytes = readEnd(path, largestPart);
     const std::string_view text = bytes ? std::string_view(*bytes) : std::string_view();
+    const auto index = MorkFlags::read(path + ".msf");
     std::string_view newest;
     for (auto begin = nextMessage(text, 0); begin < text.size();) {
         const auto end = nextMessage(text, begin + mark.size());
         const std::string_view message = text.substr(begin, end - begin);
         const auto header = std::min(message.find('\n'), message.size() - 1) + 1;
-        if (!isSeenByHeader(message.substr(header, longestHead))) {
+        if (!isSeen(message.substr(header, longestHead), index)) {
             ++unread.count;
             newest = message;
         }

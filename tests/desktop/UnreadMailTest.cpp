@@ -156,6 +156,34 @@ TEST_F(UnreadMailTest, ThunderbirdAndTheSpool)
     EXPECT_EQ(unread(), u"1 1@x Unread Ada <a@x>"_s);
 }
 
+TEST_F(UnreadMailTest, ThunderbirdsIndexGoesBeforeTheHeaders)
+{
+    const QString inbox = u".thunderbird/p.default/ImapMail/imap/INBOX"_s;
+    QByteArray mail;
+    for (const char *id : {"1@x", "2(b)@x", "3@x", "4@x"})
+        mail += QByteArray("From - Sat Nov 21 08:00:00 2026\nX-Mozilla-Status: 0000\nSubject: s\n"
+                           "From: a@x\nMessage-Id: <") +
+                id + ">\n\ntext\n\n";
+    write(inbox, mail);
+    EXPECT_EQ(unread(), u"4 4@x s a@x"_s);
+    const QByteArray index =
+        "// <!-- <mdb:mork:z v=\"1.4\"/> -->\n"
+        "< <(a=c)> // (f=iso-8859-1)\n  (80=ns:msg:db:row:scope:msgs:all)(88=flags)\n"
+        "  (89=message-id)(8A=subject)>\n"
+        "<(80=1@x)(81=2$28b\\)@x)(82=3@x)(83=0)(84=[9\\)])>\n"
+        "{1:^80 {(k^90:c)(s=9)1:m } \n  [1(^89^80)(^88=1)(^8A^84)]\n  [2(^89^81)(^88=10001)]\n"
+        "  [3(^89=3@x)(^88^83)]}\n";
+    const QByteArray change = "@$${2{@\n<(85=5@x)>\n[-3:^80(^89^82)(^88=9)]\n@$$}2}@\n";
+    write(inbox + u".msf"_s, index);
+    EXPECT_EQ(unread(), u"2 4@x s a@x"_s);
+    write(inbox + u".msf"_s, index + change);
+    EXPECT_EQ(unread(), u"1 4@x s a@x"_s);
+    for (qsizetype size = 0; size < index.size(); ++size) {
+        write(inbox + u".msf"_s, index.left(size) + (size % 3 ? "\\" : "<(["));
+        ASSERT_TRUE(unread().endsWith(u" 4@x s a@x"_s)) << size;
+    }
+}
+
 TEST_F(UnreadMailTest, NotmuchIsAskedWhereItIsSetUp)
 {
     deliver("maildir|Mail/INBOX|1@x|Ada <a@x>|Tagged");
