@@ -70,7 +70,9 @@ TEST_F(AlertsTest, NotificationsReachTheServerAsPlainTextAndReplaceTheirLike)
         EXPECT_EQ(got(), expected);
         for (int i = 0; i < 40; ++i) // those of a long day are not all remembered
             deliver(QString::number(i));
+        ASSERT_TRUE(eventually([&] { return got().size() == 44; }));
         deliver(QStringLiteral("a"));
+        ASSERT_TRUE(eventually([&] { return got().size() == 45; }));
         deliver(QStringLiteral("39"));
         ASSERT_TRUE(eventually([&] { return got().size() == 46; }));
         EXPECT_TRUE(got().at(44).startsWith(u'0'));
@@ -110,6 +112,9 @@ TEST_F(AlertsTest, ThatTheServerHoldsBackIsSeen)
     EXPECT_TRUE(becomes(std::nullopt)) << "it is gone, and with it what it told";
     LogCapture log;
     server.start(QStringLiteral("notification_daemon"));
+    server.call(
+        serverPath, mock, "AddProperty",
+        {serverName, QStringLiteral("Inhibited"), QVariant::fromValue(QDBusVariant(false))});
     const auto tell = [&](const QVariant &value) {
         server.update(serverPath, serverName, {{QStringLiteral("Inhibited"), value}});
     };

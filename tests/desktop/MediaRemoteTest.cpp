@@ -320,8 +320,10 @@ TEST_F(RealPlayerTest, ObeyAndTellWhereTheyAre)
     }
     EXPECT_EQ(told, (decltype(told){RepeatMode::List, RepeatMode::Track, RepeatMode::Nothing}));
     told.clear();
-    setProperty(u"mpv"_s, u"Shuffle"_s, true); // by somebody else
-    EXPECT_TRUE(waitUntil([&] { return remote.isShuffling() == true && told.size() == 1; }));
+    setProperty(u"mpv"_s, u"LoopStatus"_s, u"Track"_s); // by somebody else
+    EXPECT_TRUE(waitUntil([&] { return !told.isEmpty(); }));
+    EXPECT_EQ(told, QList{std::optional(RepeatMode::Track)});
+    setProperty(u"mpv"_s, u"LoopStatus"_s, u"None"_s);
 
     const auto other = startPlayer({second}); // begins later
     EXPECT_TRUE(plays(u"Second Wind"_s, 1));

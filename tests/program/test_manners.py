@@ -130,8 +130,8 @@ class MannersTest(DesktopTest):
             island.wait_for("Page", page)
         key("Left")
         island.wait_for("Page", "weather")
-        key("Right", "Tab", "space")  # the tool
-        key("Tab", "Return")  # its first length
+        key("Right", "Tab", "Tab", "space")  # the second of three tools
+        key("Tab", "Tab", "Return")  # its first length
         wait_until(lambda: island.get("Timers")["isRunning"], 3, "the countdown")
         self.assertEqual(island.get("Timers")["targetSeconds"], 60)
         key("Left")  # from a control that the page took with it

@@ -523,7 +523,7 @@ TEST_F(AppDelegateTest, DoNotDisturbIsToldOfAndHoldsBackWhatItsSettingsSay)
         runLoop.advance(10s);
         return type;
     };
-    const auto words = [&] {
+    const auto words = [&]() -> QString {
         return state.hud().value(QStringLiteral("title")).toString() + u' ' +
                state.hud().value(QStringLiteral("subtitle")).toString();
     };
