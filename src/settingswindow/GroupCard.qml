@@ -8,6 +8,14 @@ Column {
     required property var group
     property string highlightedKey
 
+    function find(key: string): Item {
+        for (let i = 0; i < repeater.count; i++) {
+            if (repeater.itemAt(i).row.key === key)
+                return repeater.itemAt(i);
+        }
+        return null;
+    }
+
     spacing: 6
     Accessible.role: Accessible.Grouping
     Accessible.name: heading.text
@@ -41,13 +49,14 @@ Column {
             width: parent.width
 
             Repeater {
+                id: repeater
+
                 model: group.group.rows
 
                 delegate: RowView {
                     required property var modelData
                     required property int index
 
-                    objectName: row.key
                     width: rows.width
                     row: modelData
                     highlighted: group.highlightedKey !== "" && group.highlightedKey === row.key

@@ -7,7 +7,14 @@ T.SpinBox {
     id: control
 
     required property SettingRow row
+    // By these names a screen reader looks for the ends.
+    readonly property real minimumValue: from
+    readonly property real maximumValue: to
     readonly property int shown: Math.max(from, Math.min(to, Math.round(row.value)))
+
+    function take() {
+        forceActiveFocus(Qt.TabFocusReason);
+    }
 
     implicitWidth: 148
     implicitHeight: 28

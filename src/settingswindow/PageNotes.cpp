@@ -370,8 +370,8 @@ void PageNotes::about()
                QT_TRANSLATE_NOOP("Settings", "What was shown when Quillmere first started."),
                QT_TRANSLATE_NOOP("Settings", "Show again"),
                [this] { services_.platform.notificationCenter.post(events::showOnboarding); });
-    group(QT_TRANSLATE_NOOP("Settings", "Files"), {log});
     group(QT_TRANSLATE_NOOP("Settings", "Quillmere"), {version, licence, setup});
+    group(QT_TRANSLATE_NOOP("Settings", "Files"), {log});
 }
 
 } // namespace quillmere

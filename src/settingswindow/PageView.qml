@@ -8,6 +8,16 @@ PageScroller {
     required property SettingsModel model
     property string highlightedKey
 
+    // Points out a row and puts the keyboard there.
+    function reveal(key: string) {
+        highlightedKey = key;
+        for (let i = 0; i < groups.count; i++) {
+            const row = groups.itemAt(i).find(key);
+            if (row && row.control)
+                return row.control.take();
+        }
+    }
+
     Text {
         text: page.model.title
         width: parent.width
@@ -44,8 +54,21 @@ PageScroller {
         horizontalAlignment: Text.AlignLeft
         Accessible.role: Accessible.StaticText
         Accessible.name: text
+        Accessible.ignored: !visible
+    }
+    Loader {
+        width: parent.width
+        active: page.model.pageId === "google" && page.model.googleAccount !== null
+        visible: active
+        sourceComponent: AccountCard {
+            width: parent.width
+            bottomPadding: 12
+            account: page.model.googleAccount
+        }
     }
     Repeater {
+        id: groups
+
         model: page.model.groups
 
         delegate: GroupCard {

@@ -8,8 +8,9 @@ T.Button {
     implicitWidth: label.implicitWidth + 22
     implicitHeight: 28
     Accessible.name: text
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Accessible.onPressAction: control.clicked()
+    Keys.onReturnPressed: control.clicked()
+    Keys.onEnterPressed: control.clicked()
 
     background: Rectangle {
         radius: 7

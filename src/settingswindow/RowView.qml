@@ -7,9 +7,10 @@ Item {
 
     required property SettingRow row
     property bool highlighted: false
-    readonly property bool stacked: control.width > (width - 28) * 0.62
+    readonly property Item control: controlLoader.item
+    readonly property bool stacked: controlLoader.width > (width - 28) * 0.62
 
-    implicitHeight: stacked ? texts.height + control.height + 27 : Math.max(46, texts.height + 18)
+    implicitHeight: stacked ? texts.height + controlLoader.height + 27 : Math.max(46, texts.height + 18)
 
     Rectangle {
         anchors.fill: parent
@@ -42,7 +43,9 @@ Item {
             color: Theme.text
             visible: text !== ""
             horizontalAlignment: Text.AlignLeft
-            Accessible.ignored: view.row.control !== "note"
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+            Accessible.ignored: view.row.control !== "note" || !visible
         }
         Text {
             width: parent.width
@@ -53,7 +56,9 @@ Item {
             color: Theme.muted
             visible: text !== ""
             horizontalAlignment: Text.AlignLeft
-            Accessible.ignored: view.row.control !== "note"
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+            Accessible.ignored: view.row.control !== "note" || !visible
         }
         Text {
             width: parent.width
@@ -64,6 +69,9 @@ Item {
             color: Theme.warning
             visible: text !== ""
             horizontalAlignment: Text.AlignLeft
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+            Accessible.ignored: !visible
         }
     }
     Item {
@@ -72,25 +80,27 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: 14
         y: view.stacked ? view.height - height - 10 : (view.height - height) / 2
-        width: Math.max(control.width, button.visible ? button.width : 0)
-        height: Math.max(control.height, button.visible ? button.height : 0)
+        width: Math.max(controlLoader.width, button.width)
+        height: Math.max(controlLoader.height, button.height)
 
         ControlLoader {
-            id: control
+            id: controlLoader
 
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             row: view.row
         }
-        PushButton {
+        Loader {
             id: button
 
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            visible: view.row.buttonTitle !== ""
-            text: view.row.buttonTitle
-            Accessible.description: view.row.title
-            onClicked: view.row.activate()
+            active: view.row.buttonTitle !== ""
+            sourceComponent: PushButton {
+                text: view.row.buttonTitle
+                Accessible.description: view.row.title
+                onClicked: view.row.activate()
+            }
         }
     }
 }

@@ -8,6 +8,11 @@ Rectangle {
 
     required property SettingRow row
 
+    function take() {
+        const chosen = row.choices.indexOf(row.value);
+        repeater.itemAt(Math.max(0, chosen)).forceActiveFocus(Qt.TabFocusReason);
+    }
+
     implicitWidth: segments.implicitWidth + 4
     implicitHeight: 28
     radius: 7
@@ -48,6 +53,7 @@ Rectangle {
                 text: control.row.choiceTitles[index]
                 focusPolicy: checked ? Qt.StrongFocus : Qt.ClickFocus
                 Accessible.name: text
+                Accessible.description: control.row.title
                 Keys.onLeftPressed: step(mirrored ? 1 : -1)
                 Keys.onRightPressed: step(mirrored ? -1 : 1)
                 onCheckedChanged: {

@@ -117,7 +117,11 @@ void SettingsModel::rebuild()
         groups_.append(QVariantMap{{QStringLiteral("heading"), translated(group.heading)},
                                    {QStringLiteral("rows"), rows}});
     }
-    groups_.append(notes_->groups());
+    // What this program is comes before what can be set about it.
+    if (static_cast<SettingsPage>(page_) == SettingsPage::About)
+        groups_ = notes_->groups() + groups_;
+    else
+        groups_ += notes_->groups();
     preview_.setPage(static_cast<SettingsPage>(page_));
     Q_EMIT pageChanged();
     rowsBefore.release()->deleteLater();

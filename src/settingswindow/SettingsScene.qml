@@ -54,7 +54,7 @@ FocusScope {
             page.contentY = 0;
         }
         function onRevealed(key) {
-            page.highlightedKey = key;
+            page.reveal(key);
         }
     }
     Shortcut {
@@ -62,7 +62,7 @@ FocusScope {
         onActivated: sidebar.search()
     }
     Shortcut {
-        sequences: [StandardKey.Close, "Ctrl+W"]
+        sequence: "Ctrl+W"
         onActivated: scene.Window.window.close()
     }
     Shortcut {

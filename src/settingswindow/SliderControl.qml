@@ -7,6 +7,10 @@ Row {
 
     required property SettingRow row
 
+    function take() {
+        slider.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     spacing: 12
     layoutDirection: Qt.LeftToRight
     LayoutMirroring.enabled: false
@@ -25,6 +29,10 @@ Row {
 
         // What an edited file holds may lie beyond the ends; looking at it does not change it.
         readonly property real shown: Math.max(from, Math.min(to, control.row.value))
+
+        // By these names a screen reader looks for the ends.
+        readonly property real minimumValue: from
+        readonly property real maximumValue: to
 
         implicitWidth: 130
         implicitHeight: 22

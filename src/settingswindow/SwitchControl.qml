@@ -7,6 +7,10 @@ T.Switch {
 
     required property SettingRow row
 
+    function take() {
+        forceActiveFocus(Qt.TabFocusReason);
+    }
+
     implicitWidth: 36
     implicitHeight: 21
     checked: row.value === true

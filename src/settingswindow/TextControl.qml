@@ -10,6 +10,10 @@ T.TextField {
     // What is ready is told by Return or by leaving the field.
     readonly property bool visualFocus: activeFocus
 
+    function take() {
+        forceActiveFocus(Qt.TabFocusReason);
+    }
+
     implicitWidth: 240
     implicitHeight: 28
     leftPadding: 9

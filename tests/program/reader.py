@@ -36,8 +36,8 @@ class Reader:
         """Everything in the window, from top to bottom: role, name, description, states, value."""
         return self.ask("tree", window)
 
-    def press(self, window, name, role=None):
-        self.ask("press", window, name, role)
+    def press(self, window, name, role=None, description=None):
+        self.ask("press", window, name, role, description)
 
     def set_value(self, window, name, value):
         self.ask("set_value", window, name, value)
@@ -77,12 +77,14 @@ class _Agent:
             if child:
                 yield from self.everything(child)
 
-    def find(self, title, name, role=None):
+    def find(self, title, name, role=None, description=None):
         deadline = time.monotonic() + 5
         while time.monotonic() < deadline:
             window = self.window(title)
             for item in self.everything(window) if window else ():
-                if item.get_name() == name and role in (None, item.get_role_name()):
+                if item.get_name() != name or role not in (None, item.get_role_name()):
+                    continue
+                if description in (None, item.get_description()):
                     return item
             time.sleep(0.05)
         raise LookupError(f"no {role or 'item'} {name!r} in {title!r}")
@@ -103,8 +105,8 @@ class _Agent:
             "range": [value.get_minimum_value(), value.get_maximum_value()] if value else None,
         }
 
-    def press(self, title, name, role):
-        item = self.find(title, name, role)
+    def press(self, title, name, role, description):
+        item = self.find(title, name, role, description)
         action = item.get_action_iface()
         names = [action.get_action_name(i) for i in range(action.get_n_actions())]
         wanted = next((n for n in ("Press", "Toggle") if n in names), None)

@@ -4,9 +4,11 @@
 #include "support/SettingsFixture.h"
 #include "views/Glyphs.h"
 
+#include <QLocale>
+
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <algorithm>
 #include <map>
 
 using namespace quillmere;

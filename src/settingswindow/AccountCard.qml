@@ -1,0 +1,35 @@
+import QtQuick
+import Quillmere.Settings
+
+// The account box of another part of the program, in this window's colours.
+Column {
+    id: card
+
+    required property QtObject account
+
+    Rectangle {
+        width: parent.width
+        height: box.height + 28
+        radius: 10
+        color: Theme.card
+        border.width: Theme.dark ? 0 : 0.5
+        border.color: Theme.line
+
+        Loader {
+            id: box
+
+            x: 14
+            y: 14
+            width: parent.width - 28
+            Component.onCompleted: setSource("qrc:/qt-project.org/imports/Quillmere/GoogleAccountBox.qml", {
+                account: card.account,
+                ink: Qt.binding(() => Theme.text),
+                muted: Qt.binding(() => Theme.muted),
+                line: Qt.binding(() => Theme.groove),
+                ground: Qt.binding(() => Theme.background),
+                accent: Qt.binding(() => Theme.accent),
+                warning: Qt.binding(() => Theme.warning)
+            })
+        }
+    }
+}
