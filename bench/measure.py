@@ -164,6 +164,30 @@ class Measurement:
                 self.row(f"memory written after {done} openings", f"{now} KiB ({now - before:+} since the row above)")
                 before = now
 
+    def settings(self, count=12):
+        """From the request to the window's first picture, and what stays when it is closed again."""
+        with self.running() as (desktop, island):
+            self.row("memory written, settings never opened", f"{island.memory()['Private_Dirty']} KiB")
+            middle = (desktop.primary.width // 2, desktop.primary.height // 2, 8 * self.scale, 8 * self.scale)
+            times, closed = [], []
+            for _ in range(count):
+                before = desktop.screen.until_still(middle, quiet=0.3)
+                begun = time.monotonic()
+                island.ctl("action", "settings")
+                times.append(milliseconds(desktop.screen.until_changed(middle, before, 5) - begun))
+                time.sleep(1)
+                window = desktop.run("xdotool", "search", "--onlyvisible", "--name", "Quillmere Settings").strip()
+                desktop.run("xdotool", "windowfocus", "--sync", window, "key", "Escape")
+                time.sleep(2)
+                closed.append(island.memory()["Private_Dirty"])
+        self.row("settings asked for by a client → window on screen, first time", f"{times[0]:.0f} ms")
+        self.row("settings asked for by a client → window on screen, warm", spread(times[1:], 0))
+        self.row(
+            "memory written, settings closed again",
+            f"{closed[0]} KiB the first time, {closed[1]} the second, then {closed[-1] - closed[1]:+} "
+            f"in {count - 2} openings",
+        )
+
     # -- start ----------------------------------------------------------------------------------
 
     def start(self, rounds=12):
@@ -326,6 +350,7 @@ def main():
         "growth": lambda: measurement.growth(options.huds),
         "storm": measurement.storm,
         "cycles": measurement.cycles,
+        "settings": measurement.settings,
         "playhead": lambda: Media(measurement).playhead(),
         "media": lambda: Media(measurement).costs(),
         "artwork": lambda: Media(measurement).artwork(options.tracks),

@@ -26,6 +26,7 @@
 #include <QTranslator>
 
 #include <cstdio>
+#include <malloc.h>
 
 using namespace quillmere;
 
@@ -122,6 +123,7 @@ private:
                              .logFolder = xdg::stateHome() + QStringLiteral("/Logs/Quillmere"),
                              .localKeyWritten = [this] { app_.localKeyWritten(); },
                              .openAddress = openAddress,
+                             .unloaded = [] { malloc_trim(0); },
                              .googleAccount = &*googleAccount_});
     }
 

@@ -29,6 +29,8 @@ struct SettingsServices {
     /// A local key was written here; who reads it does not hear of that otherwise.
     std::function<void()> localKeyWritten;
     std::function<void(const QUrl &address)> openAddress;
+    /// The window is gone, and what it held can go back to the system.
+    std::function<void()> unloaded = [] {};
     /// The model of the Google page's account box; null: there is none.
     QObject *googleAccount = nullptr;
 };

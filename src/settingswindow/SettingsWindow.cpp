@@ -118,8 +118,11 @@ void SettingsWindow::open()
 /// The window is still in the midst of closing.
 void SettingsWindow::unload()
 {
-    if (auto *closed = content_.release())
-        closed->deleteLater();
+    auto *closed = content_.release();
+    if (!closed)
+        return;
+    connect(closed, &QObject::destroyed, this, [this] { services_.unloaded(); });
+    closed->deleteLater();
 }
 
 } // namespace quillmere

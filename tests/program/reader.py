@@ -36,6 +36,10 @@ class Reader:
         """Everything in the window, from top to bottom: role, name, description, states, value."""
         return self.ask("tree", window)
 
+    def pages(self, window):
+        """Of the list in the window, if it is there."""
+        return [item["name"] for item in self.tree(window) if item["role"] == "list item"]
+
     def press(self, window, name, role=None, description=None):
         self.ask("press", window, name, role, description)
 

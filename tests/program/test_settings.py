@@ -104,7 +104,7 @@ class SettingsTest(DesktopTest):
 
     def test_every_control_changes_its_key_and_only_that(self):
         self.open_window()
-        pages = [i["name"] for i in self.tree() if i["role"] == "list item"]
+        pages = self.reader.pages(TITLE)
         self.assertEqual(len(pages), 26)
         changed = set()
         for page in pages:
@@ -155,13 +155,13 @@ class SettingsTest(DesktopTest):
         self.open_window()
         self.type("ctrl+f")
         self.desktop.run("xdotool", "type", "fahrenheit")
-        wait_until(lambda: len([i for i in self.tree() if i["role"] == "list item"]) == 1, what="one result")
+        wait_until(lambda: len(self.reader.pages(TITLE)) == 1, what="one result")
         self.type("Return")
         wait_until(lambda: self.heading() == "Weather", what="the page")
         self.type("space")
         wait_until(lambda: self.stored().get("weatherUseFahrenheit"), what="the switch")
         self.type("Escape")  # what was searched for
-        wait_until(lambda: len([i for i in self.tree() if i["role"] == "list item"]) == 26, what="all pages")
+        wait_until(lambda: len(self.reader.pages(TITLE)) == 26, what="all pages")
         self.type("Escape")
         wait_until(lambda: not self.windows(), what="the window to close")
 

@@ -9,6 +9,7 @@ import re
 import time
 from pathlib import Path
 
+from appearance import DARK, LIGHT, Appearance
 from assistant import Assistant
 from backlight import Backlight
 from bus import Bus
@@ -18,6 +19,7 @@ from island import Island, is_black
 from players import make_track, start_mpv
 from portal import prefer_dark
 from power import Battery
+from reader import Reader
 from wayland import WaylandDesktop
 from weather import WeatherServers, forecast
 
@@ -481,6 +483,30 @@ def visit_setup(album, build, look, scale, language=None):
                 raise SystemExit("\n".join(faults))
 
 
+def visit_settings(album, build, look, scale):
+    """Every page of the settings window."""
+    title = "Quillmere Settings"
+    with contextlib.ExitStack() as stack:
+        desktop = stack.enter_context(PrivateDesktop(scale, look))
+        reader = Reader(desktop)
+        Appearance(desktop, DARK if look == "dark" else LIGHT)
+        island = stack.enter_context(Island(desktop, build))
+        island.ctl("action", "settings")
+        search = ("xdotool", "search", "--onlyvisible", "--name", title)
+        window = wait_until(lambda: desktop.run(*search, check=False).strip(), what="the settings window")
+        wait_until(lambda: reader.pages(title), what="its pages")
+        geometry = desktop.run("xdotool", "getwindowgeometry", "--shell", window)
+        facts = dict(re.findall(r"^(\w+)=(-?\d+)$", geometry, re.M))
+        area = tuple(int(facts[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+        for number, page in enumerate(reader.pages(title)):
+            if number:
+                reader.press(title, page, "list item")
+            desktop.screen.until_still(area, quiet=0.3)
+            album.add(desktop.screen.grab(*area), f"settings-{page.lower().replace(' ', '-')}-{look}-{scale}x")
+        if faults := island.faults():
+            raise SystemExit("\n".join(faults))
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--build", required=True)
@@ -490,6 +516,7 @@ def main():
     album = Album(options.out)
     for look, scale in [("dark", 1), ("dark", 2), ("light", 1), ("light", 2)]:
         visit(album, build, look, scale)
+        visit_settings(album, build, look, scale)
     visit(album, build, "dark", 1, PipeWireDesktop)
     for scale in (1, 2):
         visit_wayland(album, build, scale)
