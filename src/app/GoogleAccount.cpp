@@ -59,7 +59,8 @@ void GoogleAccount::signIn()
 {
     authManager_.signIn([](const auto &outcome) {
         if (!outcome)
-            qWarning("[Google] Sign-in failed: %s", qUtf8Printable(text(outcome.error())));
+            qWarning("[Google] Sign-in failed: %s",
+                     qUtf8Printable(text(outcome.error()).simplified()));
     });
 }
 

@@ -15,7 +15,9 @@ from backlight import Backlight
 from bus import Bus
 from desktop import PipeWireDesktop, PrivateDesktop, end_process, wait_until
 from drag import Drag
+from google import CLIENT_ID, GoogleServers, event
 from island import Island, is_black
+from keyring import Keyring
 from players import make_track, start_mpv
 from portal import prefer_dark
 from power import Battery
@@ -461,6 +463,27 @@ def visit(album, build, look, scale, kind=PrivateDesktop):
             raise SystemExit("\n".join(faults))
 
 
+def visit_google(album, build):
+    """News of a Google account; its polls are half a minute apart."""
+    with contextlib.ExitStack() as stack:
+        desktop = stack.enter_context(PrivateDesktop(1, "dark"))
+        servers = stack.enter_context(GoogleServers(desktop))
+        servers.install_browser()
+        Keyring(desktop)
+        wanted = {"googleClientID": CLIENT_ID, "showGmailHUD": True, "showGoogleCalendarHUD": True}
+        island = stack.enter_context(Island(desktop, build, SETTINGS | wanted | {"googlePollInterval": 30.0}))
+        tour = Tour(album, desktop, island, "dark")
+        servers.events = [event("soon", "Design review with Grace", 4, hangoutLink="https://meet.example/soon")]
+        island.ctl("action", "sign-in-to-google")
+        wait_until(lambda: island.hud().get("type") == "calendar", 60, "the event", step=0.2)
+        tour.settled("google-event")
+        servers.messages = {"new": ("Ada Lovelace <ada@example.org>", "Notes on the engine, and a question")}
+        wait_until(lambda: island.hud().get("type") == "email", 60, "the message", step=0.2)
+        tour.settled("google-mail")
+        if faults := island.faults() + servers.faults:
+            raise SystemExit("\n".join(faults))
+
+
 def visit_setup(album, build, look, scale, language=None):
     """The setup window step by step, as a keyboard goes through it."""
     with PrivateDesktop(scale, "dark") as desktop:
@@ -518,6 +541,7 @@ def main():
         visit(album, build, look, scale)
         visit_settings(album, build, look, scale)
     visit(album, build, "dark", 1, PipeWireDesktop)
+    visit_google(album, build)
     for scale in (1, 2):
         visit_wayland(album, build, scale)
     for look, scale, language in (
