@@ -48,8 +48,8 @@ struct HttpError {
 using HttpResult = tl::expected<HttpResponse, HttpError>;
 
 /// Requests over https. Redirects are followed up to five times, to addresses that could be asked
-/// directly, and with an "Authorization" header only on the same host. Cookies are neither kept nor
-/// sent. Main thread only.
+/// directly, and with a body or an "Authorization" header only on the same host. No cookies are
+/// kept or sent. Main thread only.
 class HttpClient
 {
 public:

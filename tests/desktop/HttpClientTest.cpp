@@ -161,6 +161,9 @@ TEST_F(HttpClientTest, BadServersAreErrors)
     plain.isReplacedEndpoint = false;
     auto secret = request("neighbour");
     secret.headers = {{"authorization", "Bearer token"}};
+    auto form = request("neighbour");
+    form.method = "POST";
+    form.body = "code=x";
     const std::pair<HttpRequest, Kind> cases[] = {
         {request("large"), Kind::TooLarge},
         {request("endless"), Kind::TooLarge},
@@ -172,6 +175,7 @@ TEST_F(HttpClientTest, BadServersAreErrors)
         {request("elsewhere"), Kind::NotPermitted},
         {request("file"), Kind::NotPermitted},
         {secret, Kind::NotPermitted},
+        {form, Kind::NotPermitted},
         {plain, Kind::NotPermitted},
         {{.url = QUrl(QStringLiteral("file:///etc/passwd"))}, Kind::NotPermitted},
         {{.url = QUrl()}, Kind::NotPermitted},

@@ -32,9 +32,10 @@ QNetworkRequest toQtRequest(const HttpRequest &request)
 
 bool carriesCredentials(const HttpRequest &request)
 {
-    return std::ranges::any_of(request.headers, [](const auto &header) {
+    const auto isAuthorization = [](const auto &header) {
         return header.first.compare("authorization", Qt::CaseInsensitive) == 0;
-    });
+    };
+    return !request.body.isEmpty() || std::ranges::any_of(request.headers, isAuthorization);
 }
 
 bool isSameServer(const QUrl &a, const QUrl &b)
