@@ -50,6 +50,7 @@ SetupWindow::SetupWindow(SetupModel &model)
     content_.reset(makeContent(engine_, model));
     content_->setParentItem(contentItem());
     content_->setSize(contentSize);
+    setColor(content_->property("color").value<QColor>()); // what is seen before the first frame
     connect(&model, &SetupModel::stepChanged, this, &SetupWindow::announceStep);
 }
 
