@@ -219,10 +219,6 @@
         <source>Google OAuth client ID</source>
         <translation>Google-OAuth-Client-ID</translation>
     </message>
-    <message>
-        <source>%1.</source>
-        <translation>%1.</translation>
-    </message>
 </context>
 <context>
     <name>GoogleSignIn</name>

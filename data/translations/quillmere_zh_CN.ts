@@ -218,10 +218,6 @@
         <source>Google OAuth client ID</source>
         <translation>Google OAuth 客户端 ID</translation>
     </message>
-    <message>
-        <source>%1.</source>
-        <translation>%1.</translation>
-    </message>
 </context>
 <context>
     <name>GoogleSignIn</name>
