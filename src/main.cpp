@@ -54,6 +54,7 @@ public:
         , onboardingController_(platform_.services(), app_.settings())
     {
         app_.appDelegate().onShowOnboarding = [this] { onboardingController_.show(); };
+        onboardingController_.onUnloaded = [] { malloc_trim(0); };
         app_.appDelegate().onIslandCreated = [this](Island island) { show(island); };
         app_.launch([this] {
             // A window that is closed by quitting was not left by its user.

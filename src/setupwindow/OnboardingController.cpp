@@ -50,7 +50,11 @@ void OnboardingController::complete()
     settings_.hasCompletedOnboarding.set(true);
     left_ = std::move(setup_);
     left_->window.hide();
-    platform_.runLoop.post(owner_, [this] { left_.reset(); });
+    platform_.runLoop.post(owner_, [this] {
+        left_.reset();
+        if (onUnloaded)
+            onUnloaded();
+    });
 }
 
 } // namespace quillmere

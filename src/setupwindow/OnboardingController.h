@@ -2,6 +2,7 @@
 
 #include "platform/Owner.h"
 
+#include <functional>
 #include <memory>
 
 namespace quillmere {
@@ -23,6 +24,9 @@ public:
 
     /// Takes the window away; nobody has completed anything by that.
     void putAway();
+
+    /// After a window that was left is gone from memory.
+    std::function<void()> onUnloaded;
 
     bool isShown() const { return setup_ != nullptr; }
 
