@@ -4,8 +4,8 @@
 #include "platform/linux/dbus/DBusService.h"
 
 #include <QCoreApplication>
-#include <QIcon>
 #include <QDesktopServices>
+#include <QIcon>
 
 namespace quillmere {
 
