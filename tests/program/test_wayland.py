@@ -107,14 +107,30 @@ class SurfaceTest(WaylandTest):
         self.desktop.pointer.click(self.desktop.primary.width // 2, 16)
         wait_until(lambda: self.island.get("Presentation") == "collapsed", 5, "the closed island")
 
+    def keys(self):
+        """Pressed so far in the neighbour."""
+        return len(re.findall(r"wl_keyboard\] key: .*state: 1", self.desktop.log("wev.log")))
+
+    def test_a_shortcut_opens_it_for_the_keyboard(self):
+        self.start_neighbour()
+        self.start({"autoCollapseDelay": 10})
+        before = self.keys()
+        self.island.toggle()
+        self.island.wait_for("Presentation", "expanded")
+        time.sleep(0.5)
+        # Every run is a keyboard of its own; without any the seat has nothing to lend.
+        self.desktop.run("wtype", "-s", "500", "-k", "Right", "-s", "500", "-k", "Escape")
+        self.island.wait_for("Presentation", "collapsed")
+        self.assertEqual(self.island.get("Page"), "weather")
+        self.assertEqual(self.keys(), before)
+        self.desktop.run("wtype", "-s", "500", "a")
+        wait_until(lambda: self.keys() > before, 3, "the neighbour's key")
+
     def test_typing_borrows_the_keyboard(self):
         self.start_neighbour()
         servers = self.enterContext(WeatherServers(self.desktop))
         self.start({"autoCollapseDelay": 0.5})
-        middle, pointer = self.desktop.primary.width // 2, self.desktop.pointer
-
-        def keys():
-            return len(re.findall(r"wl_keyboard\] key: .*state: 1", self.desktop.log("wev.log")))
+        middle, pointer, keys = self.desktop.primary.width // 2, self.desktop.pointer, self.keys
 
         pointer.click(middle, 16)
         self.island.wait_for("Presentation", "expanded")
