@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Owner.h"
 #include "platform/Task.h"
 #include "settingswindow/SettingEntry.h"
 
@@ -35,10 +36,12 @@ private:
     void battery();
     void display();
     void sound();
+    void connectivity();
     void email();
     void messages(WatchedNotificationApp app);
     void nowPlaying();
     void weather();
+    void assistant();
     void about();
 
     void showPlace(SettingRow &row);
@@ -53,6 +56,7 @@ private:
     SettingsServices &services_;
     QVariantList groups_;
     std::vector<Task> tasks_;
+    Owner owner_;
 };
 
 } // namespace quillmere

@@ -46,6 +46,7 @@ Rectangle {
     component Words: Text {
         textFormat: Text.PlainText
         elide: Text.ElideRight
+        horizontalAlignment: Text.AlignLeft
         font: Theme.font(12, Font.Normal)
         color: Ink.content
         Accessible.ignored: true
@@ -111,7 +112,8 @@ Rectangle {
             cornerRadius: 10
 
             Cover {
-                x: 10
+                anchors.left: parent.left
+                anchors.leftMargin: 10
                 y: 6
                 width: 20
                 height: 20
@@ -136,28 +138,32 @@ Rectangle {
             visible: strip.preview.showsMedia
 
             Cover {
-                x: 14
+                anchors.left: parent.left
+                anchors.leftMargin: 14
                 y: 11
                 width: 40
                 height: 40
                 radius: 8
             }
             Words {
-                x: 64
+                anchors.left: parent.left
+                anchors.leftMargin: 64
                 y: 14
                 width: 90
                 text: "First Light"
                 font: Theme.font(13, Font.DemiBold)
             }
             Words {
-                x: 64
+                anchors.left: parent.left
+                anchors.leftMargin: 64
                 y: 32
                 width: 90
                 text: "Aurora"
                 color: Ink.secondary
             }
             Glyph {
-                x: 160
+                anchors.left: parent.left
+                anchors.leftMargin: 160
                 anchors.verticalCenter: parent.verticalCenter
                 width: 14
                 height: 14

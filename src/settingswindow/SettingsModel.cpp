@@ -174,9 +174,14 @@ bool SettingsModel::canReset() const
 
 void SettingsModel::resetPage()
 {
-    for (auto *row : rows_->findChildren<SettingRow *>(Qt::FindDirectChildrenOnly))
+    for (auto *row : rows_->findChildren<SettingRow *>(Qt::FindDirectChildrenOnly)) {
         if (Setting *setting = services_.settings.registry().find(row->key()))
             setting->reset();
+        else
+            services_.platform.localDefaults.removeObject(row->key());
+    }
+    localChanged();
+    services_.localKeyWritten();
 }
 
 void SettingsModel::setQuery(const QString &query)
@@ -196,11 +201,16 @@ QVariantList SettingsModel::results() const
     for (const SettingsPageInfo &page : settingsPages())
         if (matches(translated(page.title), words))
             result.append(describe(page));
-    for (const SettingGroup &group : settingGroups())
-        for (const SettingEntry &entry : group.entries)
-            if (matches(searchText(entry, group), words))
+    QVariantList others;
+    for (const SettingGroup &group : settingGroups()) {
+        for (const SettingEntry &entry : group.entries) {
+            if (matches(translated(entry.title), words))
                 result.append(describe(entry, info(group.page)));
-    return result;
+            else if (matches(searchText(entry, group), words))
+                others.append(describe(entry, info(group.page)));
+        }
+    }
+    return result + others;
 }
 
 void SettingsModel::reveal(const QVariantMap &result)

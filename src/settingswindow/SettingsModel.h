@@ -53,7 +53,9 @@ public:
     bool canReset() const;
     const QString &query() const { return query_; }
     void setQuery(const QString &query);
-    QVariantList results() const; ///< settings and pages that every word of the query is found in
+    /// Pages and settings that every word of the query is found in, those with it in their title
+    /// first.
+    QVariantList results() const;
     SettingsPreview *preview() { return &preview_; }
     bool isDark() const;
     bool reducesMotion() const;

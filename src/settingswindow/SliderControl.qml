@@ -12,8 +12,6 @@ Row {
     }
 
     spacing: 12
-    layoutDirection: Qt.LeftToRight
-    LayoutMirroring.enabled: false
 
     Text {
         width: 64
@@ -41,7 +39,6 @@ Row {
         stepSize: control.row.step
         value: shown
         live: true
-        LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
         Accessible.name: control.row.title
         Accessible.description: control.row.explanation
         onValueChanged: {
