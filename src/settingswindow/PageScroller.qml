@@ -25,9 +25,10 @@ Flickable {
     Column {
         id: column
 
-        x: scroller.margin
+        // Lines stay short in a wide window.
+        x: (scroller.width - width) / 2
         y: 18
-        width: scroller.width - 2 * scroller.margin
+        width: Math.min(scroller.width - 2 * scroller.margin, 760)
     }
     Connections {
         target: scroller.Window.window

@@ -7,10 +7,12 @@ T.TextField {
     id: field
 
     readonly property bool visualFocus: activeFocus
+    readonly property bool mirrored: LayoutMirroring.enabled
 
     implicitHeight: 28
-    leftPadding: 29
-    rightPadding: 9
+    leftPadding: mirrored ? 9 : 29
+    rightPadding: mirrored ? 29 : 9
+    horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     font: Theme.font(13, Font.Normal)
     color: Theme.text
@@ -26,7 +28,8 @@ T.TextField {
         color: Theme.line
 
         Glyph {
-            x: field.mirrored ? parent.width - width - 9 : 9
+            anchors.left: parent.left
+            anchors.leftMargin: 9
             anchors.verticalCenter: parent.verticalCenter
             width: 14
             height: 14

@@ -19,6 +19,7 @@ T.TextField {
     leftPadding: 9
     rightPadding: 9
     verticalAlignment: TextInput.AlignVCenter
+    horizontalAlignment: TextInput.AlignLeft
     text: row.value ?? ""
     font: Theme.font(13, Font.Normal)
     color: Theme.text
