@@ -117,6 +117,7 @@ private:
             SettingsServices{.platform = platform_.services(),
                              .settings = app_.settings(),
                              .hudManager = app_.hudManager(),
+                             .outputPicker = *delegate.outputPicker(),
                              .messages = *delegate.messages(),
                              .weather = *delegate.weather(),
                              .claudeCode = *delegate.claudeCode(),

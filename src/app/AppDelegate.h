@@ -82,6 +82,7 @@ public:
     void terminate();
 
     /// Null before launch.
+    AudioOutputPicker *outputPicker() const { return outputPicker_.get(); }
     MediaPlayback *media() const { return media_.get(); }
     ClaudeCodeMonitor *claudeCode() const { return claudeCode_.get(); }
     Messages *messages() const { return messages_.get(); }

@@ -58,7 +58,7 @@ SettingsModel::SettingsModel(SettingsServices &services, QObject *parent)
     : QObject(parent)
     , services_(services)
     , rows_(std::make_unique<QObject>())
-    , preview_(services.settings, services.platform.appearance)
+    , preview_(services.settings, services.outputPicker, services.platform.appearance)
     , local_(services.platform.localDefaults.onExternalChange(
           [this](const QStringList &) { localChanged(); }))
     , appearance_(services.platform.appearance.onChanged([this] { Q_EMIT appearanceChanged(); }))

@@ -37,8 +37,10 @@ HUDContent contentOf(SettingsPage page)
 
 } // namespace
 
-SettingsPreview::SettingsPreview(const SettingsStore &settings, const Appearance &appearance)
+SettingsPreview::SettingsPreview(const SettingsStore &settings, const AudioOutputPicker &output,
+                                 const Appearance &appearance)
     : settings_(settings)
+    , output_(output)
     , appearance_(appearance)
 {
     connect(&settings, &SettingsStore::didChange, this, &SettingsPreview::update);
@@ -54,7 +56,8 @@ void SettingsPreview::setPage(SettingsPage page)
 void SettingsPreview::update()
 {
     if (kind() == QLatin1StringView("level") || kind() == QLatin1StringView("battery"))
-        face_.setFace(hudFace(contentOf(page_), hudLook(settings_), desktopAccent(appearance_)));
+        face_.setFace(
+            hudFace(contentOf(page_), hudLook(settings_, output_), desktopAccent(appearance_)));
     Q_EMIT changed();
 }
 
@@ -109,7 +112,8 @@ QList<QColor> SettingsPreview::expandedWaveform() const
 
 QString SettingsPreview::extraSymbol() const
 {
-    return extraButton(settings_.mediaControlButton.get()).symbol;
+    const auto extra = extraButton(settings_.mediaControlButton.get(), false, RepeatMode::Nothing);
+    return extra ? extra->symbol : QString();
 }
 
 } // namespace quillmere

@@ -11,6 +11,7 @@
 namespace quillmere {
 
 class Appearance;
+class AudioOutputPicker;
 class SettingsStore;
 
 /// What the island would look like with the settings of a page, drawn above them. Main thread only.
@@ -29,7 +30,8 @@ class SettingsPreview : public QObject
     Q_PROPERTY(QString extraSymbol READ extraSymbol NOTIFY changed FINAL)
 
 public:
-    SettingsPreview(const SettingsStore &settings, const Appearance &appearance);
+    SettingsPreview(const SettingsStore &settings, const AudioOutputPicker &output,
+                    const Appearance &appearance);
 
     void setPage(SettingsPage page);
 
@@ -50,6 +52,7 @@ private:
     QColor artworkAccent() const;
 
     const SettingsStore &settings_;
+    const AudioOutputPicker &output_;
     const Appearance &appearance_;
     SettingsPage page_ = SettingsPage::General;
     FaceModel face_;

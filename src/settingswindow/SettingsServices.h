@@ -9,6 +9,7 @@ class QObject;
 
 namespace quillmere {
 
+class AudioOutputPicker;
 class ClaudeCodeMonitor;
 class HUDManager;
 class Messages;
@@ -21,6 +22,7 @@ struct SettingsServices {
     Platform &platform;
     SettingsStore &settings;
     HUDManager &hudManager;
+    const AudioOutputPicker &outputPicker;
     Messages &messages;
     WeatherReports &weather;
     ClaudeCodeMonitor &claudeCode;
