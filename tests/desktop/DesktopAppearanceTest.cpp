@@ -169,6 +169,11 @@ TEST_F(DesktopAppearanceTest, ReadsWhatDesktopsTell)
         {"GNOME's word", gnome, "color-scheme", u"prefer-dark"_s, {.dark = true}},
         {"no accent", common, "accent-color", color(-1, -1, -1), {}},
         {"wrong accent", common, "accent-color", u"#3584e4"_s, {}},
+        {"dark", common, "color-scheme", 1U, {.dark = true}},
+        {"light", common, "color-scheme", 2U, {.dark = false}},
+        {"no scheme", common, "color-scheme", 0U, {}},
+        {"wrong scheme", common, "color-scheme", true, {}},
+        {"GNOME, dark", gnome, "color-scheme", u"prefer-dark"_s, {.dark = true}},
     };
     for (const auto &each : cases) {
         const Portal portal(server.connect(),

@@ -139,12 +139,15 @@ protected:
 TEST_F(TrayTest, RegistersWithEveryWatcherThatComes)
 {
     item_.show(content_);
+    EXPECT_FALSE(item_.isOnBar());
     for (int turn = 0; turn < 2; ++turn) { // late, and again after a restart
         const auto watcher = startWatcher();
         ASSERT_TRUE(eventually([&watcher] { return !watcher->items.isEmpty(); })) << turn;
         EXPECT_THAT(watcher->items, ElementsAre(service_));
         EXPECT_TRUE(host_.interface()->isServiceRegistered(service_));
+        EXPECT_TRUE(eventually([this] { return item_.isOnBar(); }));
     }
+    EXPECT_TRUE(eventually([this] { return !item_.isOnBar(); })) << "the last watcher went";
     Watcher slow(host_); // has its name before it answers
     bool refused = false;
     const Task wait = runLoop_.after(200ms, [&refused] { refused = true; });
