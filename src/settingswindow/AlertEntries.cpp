@@ -9,7 +9,8 @@ constexpr SettingRange percent{
 
 constexpr std::array power{
     toggle("showBatteryHUD", QT_TRANSLATE_NOOP("Settings", "Show power changes"),
-           QT_TRANSLATE_NOOP("Settings", "When the charger goes in or out, and when it is full.")),
+           QT_TRANSLATE_NOOP("Settings",
+                             "When the charger goes in or out, and when the battery is low.")),
     slider("batteryHUDDuration", QT_TRANSLATE_NOOP("Settings", "Show for"),
            QT_TRANSLATE_NOOP("Settings", "How long a message about the battery stays."),
            hudSeconds),
@@ -17,8 +18,9 @@ constexpr std::array power{
            QT_TRANSLATE_NOOP("Settings", "The picture of the battery says enough.")),
     toggle("hideBatteryPercentage", QT_TRANSLATE_NOOP("Settings", "Hide the percentage"),
            QT_TRANSLATE_NOOP("Settings", "No figure beside the battery.")),
-    toggle("notifyOnLowPowerMode", QT_TRANSLATE_NOOP("Settings", "Power saver"),
-           QT_TRANSLATE_NOOP("Settings", "Tells when the machine begins to save power.")),
+    toggle("notifyOnLowPowerMode", QT_TRANSLATE_NOOP("Settings", "Notify as well"),
+           QT_TRANSLATE_NOOP("Settings",
+                             "A low battery, and power saving on or off, as a notification.")),
 };
 
 constexpr std::array lowBattery{
@@ -32,8 +34,9 @@ constexpr std::array lowBattery{
 };
 
 constexpr std::array devices{
-    toggle("showBluetoothHUD", QT_TRANSLATE_NOOP("Settings", "Show devices that connect"),
-           QT_TRANSLATE_NOOP("Settings", "Headphones and speakers, with their charge.")),
+    toggle("showBluetoothHUD", QT_TRANSLATE_NOOP("Settings", "Show devices"),
+           QT_TRANSLATE_NOOP("Settings",
+                             "Headphones and speakers that connect, and devices that run low.")),
     slider("bluetoothHUDDuration", QT_TRANSLATE_NOOP("Settings", "Show for"),
            QT_TRANSLATE_NOOP("Settings", "How long a device stays on the island."), hudSeconds),
 };

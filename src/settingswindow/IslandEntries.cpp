@@ -81,7 +81,7 @@ constexpr std::array gestures{
     toggle("swipeToCycleActivity", QT_TRANSLATE_NOOP("Settings", "Swipe through events"),
            QT_TRANSLATE_NOOP("Settings", "Sideways goes through what came lately.")),
     toggle("swipeToDismissActivity", QT_TRANSLATE_NOOP("Settings", "Swipe to dismiss"),
-           QT_TRANSLATE_NOOP("Settings", "Up takes away what is shown beside the notch.")),
+           QT_TRANSLATE_NOOP("Settings", "Up takes away what is shown.")),
     toggle("swipeToSkipMedia", QT_TRANSLATE_NOOP("Settings", "Swipe to skip a track"),
            QT_TRANSLATE_NOOP("Settings", "Sideways over playing media goes to the next or last.")),
     toggle("naturalMovement", QT_TRANSLATE_NOOP("Settings", "Natural direction"),

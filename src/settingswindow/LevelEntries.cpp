@@ -42,7 +42,7 @@ constexpr std::array sound{
     toggle("soundHUDsEnabled", QT_TRANSLATE_NOOP("Settings", "Sound messages"),
            QT_TRANSLATE_NOOP("Settings", "All that sound has to tell; off is off for all.")),
     toggle("showVolumeHUD", QT_TRANSLATE_NOOP("Settings", "Show the volume"),
-           QT_TRANSLATE_NOOP("Settings", "When it changes, by whom ever.")),
+           QT_TRANSLATE_NOOP("Settings", "Whoever changes it.")),
     slider("volumeHUDDuration", QT_TRANSLATE_NOOP("Settings", "Show for"),
            QT_TRANSLATE_NOOP("Settings", "How long the volume stays on the island."), hudSeconds),
     toggle("volumeScrollEnabled", QT_TRANSLATE_NOOP("Settings", "Scroll to change the volume"),

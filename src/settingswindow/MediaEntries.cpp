@@ -39,7 +39,8 @@ constexpr std::array track{
            {QT_TRANSLATE_NOOP("Settings", "Favourite"), QT_TRANSLATE_NOOP("Settings", "Shuffle"),
             QT_TRANSLATE_NOOP("Settings", "Repeat"), QT_TRANSLATE_NOOP("Settings", "Copy")}),
     toggle("hideMediaTitleExtras", QT_TRANSLATE_NOOP("Settings", "Short titles"),
-           QT_TRANSLATE_NOOP("Settings", "Leaves out what is in brackets: remasters, guests.")),
+           QT_TRANSLATE_NOOP("Settings",
+                             "Without remarks such as official video, remastered or guests.")),
     toggle("enableDynamicColors", QT_TRANSLATE_NOOP("Settings", "Colours of the artwork"),
            QT_TRANSLATE_NOOP("Settings", "Waveform and buttons take the artwork's main colour.")),
     toggle("disableArtworkFlip", QT_TRANSLATE_NOOP("Settings", "Artwork does not turn over"),
@@ -53,7 +54,7 @@ constexpr std::array source{
 
 constexpr std::array weather{
     toggle("showWeatherHUD", QT_TRANSLATE_NOOP("Settings", "Show changes of the weather"),
-           QT_TRANSLATE_NOOP("Settings", "When it turns, and once when you start your day.")),
+           QT_TRANSLATE_NOOP("Settings", "When it is not what was shown last.")),
     toggle("weatherUseFahrenheit", QT_TRANSLATE_NOOP("Settings", "Fahrenheit"),
            QT_TRANSLATE_NOOP("Settings", "Temperatures in °F instead of °C.")),
 };

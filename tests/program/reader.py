@@ -24,6 +24,11 @@ class Reader:
             stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True,
         )  # fmt: skip
 
+    def close(self):
+        self._process.stdin.close()
+        self._process.wait(10)
+        self._process.stdout.close()
+
     def ask(self, verb, *arguments):
         self._process.stdin.write(json.dumps([verb, *arguments]) + "\n")
         self._process.stdin.flush()

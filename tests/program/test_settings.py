@@ -31,6 +31,7 @@ class SettingsTest(DesktopTest):
     def setUp(self):
         super().setUp()
         self.reader = Reader(self.desktop)
+        self.addCleanup(self.reader.close)
 
     def open_window(self, defaults=None):
         self.island = self.start_island(defaults or {})

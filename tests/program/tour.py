@@ -512,15 +512,15 @@ def visit_settings(album, build, look, scale):
     with contextlib.ExitStack() as stack:
         desktop = stack.enter_context(PrivateDesktop(scale, look))
         reader = Reader(desktop)
+        stack.callback(reader.close)
         Appearance(desktop, DARK if look == "dark" else LIGHT)
         island = stack.enter_context(Island(desktop, build))
         island.ctl("action", "settings")
         search = ("xdotool", "search", "--onlyvisible", "--name", title)
         window = wait_until(lambda: desktop.run(*search, check=False).strip(), what="the settings window")
         wait_until(lambda: reader.pages(title), what="its pages")
-        geometry = desktop.run("xdotool", "getwindowgeometry", "--shell", window)
-        facts = dict(re.findall(r"^(\w+)=(-?\d+)$", geometry, re.M))
-        area = tuple(int(facts[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+        facts = desktop.run("xwininfo", "-id", window)
+        area = [int(re.search(fact + r":\s+(\d+)", facts).group(1)) for fact in ("left X", "left Y", "Width", "Height")]
         for number, page in enumerate(reader.pages(title)):
             if number:
                 reader.press(title, page, "list item")
