@@ -1803,6 +1803,30 @@
         <source>About</source>
         <translation>Info</translation>
     </message>
+    <message>
+        <source>Devices</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>%1: %2 %</source>
+        <translation>%1: %2 %</translation>
+    </message>
+    <message>
+        <source>No connected device tells its charge.</source>
+        <translation>Kein verbundenes Gerät meldet seine Ladung.</translation>
+    </message>
+    <message>
+        <source>It was not found: there is no folder .claude in your home folder.</source>
+        <translation>Er wurde nicht gefunden: In Ihrem persönlichen Ordner gibt es keinen Ordner .claude.</translation>
+    </message>
+    <message>
+        <source>Its hook needs Python. Install the package python3.</source>
+        <translation>Sein Hook braucht Python. Installieren Sie das Paket python3.</translation>
+    </message>
+    <message>
+        <source>It is set up on this machine.</source>
+        <translation>Er ist auf diesem Rechner eingerichtet.</translation>
+    </message>
 </context>
 <context>
     <name>Setup</name>

@@ -1802,6 +1802,30 @@
         <source>About</source>
         <translation>关于</translation>
     </message>
+    <message>
+        <source>Devices</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>%1: %2 %</source>
+        <translation>%1：%2%</translation>
+    </message>
+    <message>
+        <source>No connected device tells its charge.</source>
+        <translation>没有已连接的设备告知电量。</translation>
+    </message>
+    <message>
+        <source>It was not found: there is no folder .claude in your home folder.</source>
+        <translation>未找到：您的主目录中没有 .claude 文件夹。</translation>
+    </message>
+    <message>
+        <source>Its hook needs Python. Install the package python3.</source>
+        <translation>它的钩子需要 Python。请安装软件包 python3。</translation>
+    </message>
+    <message>
+        <source>It is set up on this machine.</source>
+        <translation>已在这台电脑上设置好。</translation>
+    </message>
 </context>
 <context>
     <name>Setup</name>
