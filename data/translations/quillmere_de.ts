@@ -566,7 +566,7 @@
     <name>SearchField</name>
     <message>
         <source>Search settings</source>
-        <translation>Einstellungen durchsuchen</translation>
+        <translation>Suchen</translation>
     </message>
 </context>
 <context>
