@@ -51,12 +51,35 @@ constexpr std::array lowDevices{
            QT_TRANSLATE_NOOP("Settings", "Together with the warning.")),
 };
 
+constexpr std::array focus{
+    toggle("showFocusHUD", QT_TRANSLATE_NOOP("Settings", "Show Do Not Disturb"),
+           QT_TRANSLATE_NOOP("Settings", "When it is switched on or off on the desktop.")),
+    slider("focusHUDDuration", QT_TRANSLATE_NOOP("Settings", "Show for"),
+           QT_TRANSLATE_NOOP("Settings", "How long the change stays on the island."), hudSeconds),
+    toggle("hideFocusLabel", QT_TRANSLATE_NOOP("Settings", "Hide the label"),
+           QT_TRANSLATE_NOOP("Settings", "The symbol says enough.")),
+};
+
+constexpr std::array whileFocused{
+    toggle("focusAllowBattery", QT_TRANSLATE_NOOP("Settings", "Battery"),
+           QT_TRANSLATE_NOOP("Settings", "The charger and the battery are told of meanwhile.")),
+    toggle("focusAllowConnectivity", QT_TRANSLATE_NOOP("Settings", "Connectivity"),
+           QT_TRANSLATE_NOOP("Settings", "Devices that connect are told of meanwhile.")),
+    toggle("focusAllowDisplay", QT_TRANSLATE_NOOP("Settings", "Display"),
+           QT_TRANSLATE_NOOP("Settings", "Changes of the brightness show meanwhile.")),
+    toggle("focusAllowSound", QT_TRANSLATE_NOOP("Settings", "Sound"),
+           QT_TRANSLATE_NOOP("Settings", "Changes of the volume show meanwhile.")),
+};
+
 constexpr std::array groups{
     SettingGroup{SettingsPage::Battery, QT_TRANSLATE_NOOP("Settings", "Power"), power},
     SettingGroup{SettingsPage::Battery, QT_TRANSLATE_NOOP("Settings", "Low battery"), lowBattery},
     SettingGroup{SettingsPage::Connectivity, QT_TRANSLATE_NOOP("Settings", "Bluetooth"), devices},
     SettingGroup{SettingsPage::Connectivity, QT_TRANSLATE_NOOP("Settings", "Low charge"),
                  lowDevices},
+    SettingGroup{SettingsPage::Focus, QT_TRANSLATE_NOOP("Settings", "Do Not Disturb"), focus},
+    SettingGroup{SettingsPage::Focus, QT_TRANSLATE_NOOP("Settings", "What still shows"),
+                 whileFocused},
 };
 
 } // namespace

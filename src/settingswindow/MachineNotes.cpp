@@ -3,6 +3,7 @@
 #include "platform/AudioHardware.h"
 #include "platform/BluetoothBatteries.h"
 #include "platform/DisplayBrightness.h"
+#include "platform/FocusState.h"
 #include "platform/Platform.h"
 #include "platform/PowerSources.h"
 #include "platform/RunLoop.h"
@@ -79,6 +80,25 @@ void PageNotes::connectivity()
     };
     tasks_.push_back(bluetooth.onChanged(show));
     show();
+    group(QT_TRANSLATE_NOOP("Settings", "Found"), {found});
+}
+
+void PageNotes::focus()
+{
+    SettingRow *found = row("focusState", QT_TRANSLATE_NOOP("Settings", "This desktop"));
+    const auto show = [found](std::optional<bool> isOn) {
+        found->setWarning(isOn ? QString()
+                               : translated(QT_TRANSLATE_NOOP(
+                                     "Settings", "It does not tell of Do Not Disturb; Plasma and "
+                                                 "dunst do. Until it does, this page has no "
+                                                 "effect.")));
+        found->setExplanation(
+            !isOn   ? QString()
+            : *isOn ? translated(QT_TRANSLATE_NOOP("Settings", "Do Not Disturb is on."))
+                    : translated(QT_TRANSLATE_NOOP("Settings", "Do Not Disturb is off.")));
+    };
+    show(services_.platform.focusState.isOn());
+    tasks_.push_back(services_.platform.focusState.onChanged(show));
     group(QT_TRANSLATE_NOOP("Settings", "Found"), {found});
 }
 

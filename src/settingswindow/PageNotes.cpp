@@ -66,6 +66,9 @@ PageNotes::PageNotes(SettingsServices &services, SettingsPage page)
     case SettingsPage::ClaudeCode:
         assistant();
         break;
+    case SettingsPage::Focus:
+        focus();
+        break;
     case SettingsPage::Display:
         display();
         break;

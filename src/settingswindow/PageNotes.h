@@ -34,6 +34,7 @@ public:
 private:
     void general();
     void battery();
+    void focus();
     void display();
     void sound();
     void connectivity();

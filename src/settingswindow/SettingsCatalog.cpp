@@ -12,7 +12,6 @@ namespace quillmere {
 
 namespace {
 
-constexpr QLatin1StringView noFocus{"the desktop's do-not-disturb is not followed"};
 constexpr QLatin1StringView noCalendar{"the local calendar is not read"};
 constexpr QLatin1StringView noLockScreen{"nothing is shown on the lock screen"};
 constexpr QLatin1StringView noMonitor{"nothing gathers what it would show"};
@@ -23,14 +22,8 @@ constexpr std::array hidden{
     HiddenSetting{QLatin1StringView{"googleAccountEmail"}, QLatin1StringView{"set by signing in"}},
     HiddenSetting{QLatin1StringView{"connectivityUse3DModels"},
                   QLatin1StringView{"there are no models to draw"}},
-    HiddenSetting{QLatin1StringView{"showFocusHUD"}, noFocus},
-    HiddenSetting{QLatin1StringView{"focusHUDDuration"}, noFocus},
-    HiddenSetting{QLatin1StringView{"playSoundOnSleepFocus"}, noFocus},
-    HiddenSetting{QLatin1StringView{"hideFocusLabel"}, noFocus},
-    HiddenSetting{QLatin1StringView{"focusAllowBattery"}, noFocus},
-    HiddenSetting{QLatin1StringView{"focusAllowConnectivity"}, noFocus},
-    HiddenSetting{QLatin1StringView{"focusAllowDisplay"}, noFocus},
-    HiddenSetting{QLatin1StringView{"focusAllowSound"}, noFocus},
+    HiddenSetting{QLatin1StringView{"playSoundOnSleepFocus"},
+                  QLatin1StringView{"the desktop has one Do Not Disturb and no kinds of it"}},
     HiddenSetting{QLatin1StringView{"showCalendarHUD"}, noCalendar},
     HiddenSetting{QLatin1StringView{"calendarProvider"}, noCalendar},
     HiddenSetting{QLatin1StringView{"timeBeforeCalendarEvent"}, noCalendar},

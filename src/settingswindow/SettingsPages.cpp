@@ -33,10 +33,7 @@ constexpr std::array pages{
     SettingsPageInfo{SettingsPage::Slack, QT_TRANSLATE_NOOP("Settings", "Slack"),
                      symbols::numberSign, rgb(0x611f69)},
     SettingsPageInfo{SettingsPage::Focus, QT_TRANSLATE_NOOP("Settings", "Focus"),
-                     symbols::weather::moon, rgb(0x5e5ce6),
-                     QT_TRANSLATE_NOOP("Settings",
-                                       "Quillmere does not follow the desktop's do-not-disturb "
-                                       "yet, so there is nothing to set here.")},
+                     symbols::weather::moon, rgb(0x5e5ce6)},
     SettingsPageInfo{SettingsPage::Display, QT_TRANSLATE_NOOP("Settings", "Display"),
                      symbols::sunMax, rgb(0xff9f0a)},
     SettingsPageInfo{SettingsPage::Sound, QT_TRANSLATE_NOOP("Settings", "Sound"),
