@@ -36,7 +36,8 @@ inside apt-get -q update
 inside apt-get -q -y install --no-install-recommends dbus xvfb xdotool openbox libglib2.0-bin libgtk-3-bin \
     hicolor-icon-theme
 inside apt-get -q clean
-inside apt-get -q -y purge quillmere # what a run that was cut short has left
+# What a run that was cut short has left.
+inside dpkg -s quillmere >/dev/null 2>&1 && inside apt-get -q -y purge quillmere
 inside apt-get -q -y autoremove --purge
 before=$(snapshot)
 
