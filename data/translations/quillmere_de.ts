@@ -788,8 +788,8 @@
         <translation>Lautstärke zeigen</translation>
     </message>
     <message>
-        <source>When it changes, by whom ever.</source>
-        <translation>Wenn sie sich ändert, durch wen auch immer.</translation>
+        <source>Whoever changes it.</source>
+        <translation>Wer auch immer sie ändert.</translation>
     </message>
     <message>
         <source>How long the volume stays on the island.</source>
@@ -1156,8 +1156,8 @@
         <translation>Kurze Titel</translation>
     </message>
     <message>
-        <source>Leaves out what is in brackets: remasters, guests.</source>
-        <translation>Lässt Eingeklammertes weg: Neuauflagen, Gäste.</translation>
+        <source>Without remarks such as official video, remastered or guests.</source>
+        <translation>Ohne Zusätze wie Official Video, Remastered oder Gäste.</translation>
     </message>
     <message>
         <source>Colours of the artwork</source>
@@ -1188,8 +1188,8 @@
         <translation>Wetterwechsel zeigen</translation>
     </message>
     <message>
-        <source>When it turns, and once when you start your day.</source>
-        <translation>Wenn es umschlägt, und einmal zu Beginn des Tages.</translation>
+        <source>When it is not what was shown last.</source>
+        <translation>Wenn es anders ist als zuletzt gezeigt.</translation>
     </message>
     <message>
         <source>Fahrenheit</source>
@@ -1328,8 +1328,8 @@
         <translation>Stromwechsel zeigen</translation>
     </message>
     <message>
-        <source>When the charger goes in or out, and when it is full.</source>
-        <translation>Wenn das Ladegerät ein- oder ausgesteckt wird und wenn der Akku voll ist.</translation>
+        <source>When the charger goes in or out, and when the battery is low.</source>
+        <translation>Wenn das Ladegerät ein- oder ausgesteckt wird und wenn der Akku schwach ist.</translation>
     </message>
     <message>
         <source>How long a message about the battery stays.</source>
@@ -1348,12 +1348,12 @@
         <translation>Keine Zahl neben dem Akku.</translation>
     </message>
     <message>
-        <source>Power saver</source>
-        <translation>Stromsparmodus</translation>
+        <source>Notify as well</source>
+        <translation>Auch benachrichtigen</translation>
     </message>
     <message>
-        <source>Tells when the machine begins to save power.</source>
-        <translation>Meldet, wenn der Rechner Strom zu sparen beginnt.</translation>
+        <source>A low battery, and power saving on or off, as a notification.</source>
+        <translation>Schwacher Akku und Stromsparen ein oder aus, als Benachrichtigung.</translation>
     </message>
     <message>
         <source>Warn of a low battery</source>
@@ -1380,12 +1380,12 @@
         <translation>Zusammen mit der Warnung.</translation>
     </message>
     <message>
-        <source>Show devices that connect</source>
-        <translation>Verbundene Geräte zeigen</translation>
+        <source>Show devices</source>
+        <translation>Geräte zeigen</translation>
     </message>
     <message>
-        <source>Headphones and speakers, with their charge.</source>
-        <translation>Kopfhörer und Lautsprecher mit ihrer Ladung.</translation>
+        <source>Headphones and speakers that connect, and devices that run low.</source>
+        <translation>Kopfhörer und Lautsprecher, die sich verbinden, und Geräte mit schwacher Ladung.</translation>
     </message>
     <message>
         <source>How long a device stays on the island.</source>
@@ -1604,8 +1604,8 @@
         <translation>Wischen zum Ausblenden</translation>
     </message>
     <message>
-        <source>Up takes away what is shown beside the notch.</source>
-        <translation>Nach oben nimmt weg, was neben der Insel steht.</translation>
+        <source>Up takes away what is shown.</source>
+        <translation>Nach oben nimmt weg, was gezeigt wird.</translation>
     </message>
     <message>
         <source>Swipe to skip a track</source>

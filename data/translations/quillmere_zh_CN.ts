@@ -787,8 +787,8 @@
         <translation>显示音量</translation>
     </message>
     <message>
-        <source>When it changes, by whom ever.</source>
-        <translation>音量变化时显示，无论由谁调节。</translation>
+        <source>Whoever changes it.</source>
+        <translation>无论由谁调节。</translation>
     </message>
     <message>
         <source>How long the volume stays on the island.</source>
@@ -1155,8 +1155,8 @@
         <translation>简短曲名</translation>
     </message>
     <message>
-        <source>Leaves out what is in brackets: remasters, guests.</source>
-        <translation>省略括号中的内容：重制版、嘉宾等。</translation>
+        <source>Without remarks such as official video, remastered or guests.</source>
+        <translation>省略“官方视频”“重制版”“嘉宾”等附注。</translation>
     </message>
     <message>
         <source>Colours of the artwork</source>
@@ -1187,8 +1187,8 @@
         <translation>显示天气变化</translation>
     </message>
     <message>
-        <source>When it turns, and once when you start your day.</source>
-        <translation>天气转变时，以及每天开始时一次。</translation>
+        <source>When it is not what was shown last.</source>
+        <translation>与上次显示的不同时显示。</translation>
     </message>
     <message>
         <source>Fahrenheit</source>
@@ -1327,8 +1327,8 @@
         <translation>显示电源变化</translation>
     </message>
     <message>
-        <source>When the charger goes in or out, and when it is full.</source>
-        <translation>插拔充电器以及充满时显示。</translation>
+        <source>When the charger goes in or out, and when the battery is low.</source>
+        <translation>插拔充电器以及电量低时显示。</translation>
     </message>
     <message>
         <source>How long a message about the battery stays.</source>
@@ -1347,12 +1347,12 @@
         <translation>电池旁不显示数字。</translation>
     </message>
     <message>
-        <source>Power saver</source>
-        <translation>省电模式</translation>
+        <source>Notify as well</source>
+        <translation>同时发送通知</translation>
     </message>
     <message>
-        <source>Tells when the machine begins to save power.</source>
-        <translation>电脑开始省电时告知。</translation>
+        <source>A low battery, and power saving on or off, as a notification.</source>
+        <translation>电量低以及省电模式开启或关闭时发送通知。</translation>
     </message>
     <message>
         <source>Warn of a low battery</source>
@@ -1379,12 +1379,12 @@
         <translation>与警告同时播放。</translation>
     </message>
     <message>
-        <source>Show devices that connect</source>
-        <translation>显示连接的设备</translation>
+        <source>Show devices</source>
+        <translation>显示设备</translation>
     </message>
     <message>
-        <source>Headphones and speakers, with their charge.</source>
-        <translation>耳机和扬声器及其电量。</translation>
+        <source>Headphones and speakers that connect, and devices that run low.</source>
+        <translation>连接的耳机和扬声器，以及电量低的设备。</translation>
     </message>
     <message>
         <source>How long a device stays on the island.</source>
@@ -1603,8 +1603,8 @@
         <translation>滑动忽略</translation>
     </message>
     <message>
-        <source>Up takes away what is shown beside the notch.</source>
-        <translation>向上滑动移除凹口旁显示的内容。</translation>
+        <source>Up takes away what is shown.</source>
+        <translation>向上滑动移除正在显示的内容。</translation>
     </message>
     <message>
         <source>Swipe to skip a track</source>

@@ -39,6 +39,8 @@ T.TextField {
         Text {
             anchors.fill: parent
             anchors.leftMargin: 29
+            anchors.rightMargin: 9
+            elide: Text.ElideRight
             verticalAlignment: Text.AlignVCenter
             horizontalAlignment: Text.AlignLeft
             text: field.placeholderText
