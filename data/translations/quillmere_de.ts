@@ -1700,10 +1700,6 @@
         <translation>Fokus</translation>
     </message>
     <message>
-        <source>Quillmere does not follow the desktop&apos;s do-not-disturb yet, so there is nothing to set here.</source>
-        <translation>Quillmere folgt „Nicht stören“ des Desktops noch nicht, darum gibt es hier nichts einzustellen.</translation>
-    </message>
-    <message>
         <source>Display</source>
         <translation>Bildschirm</translation>
     </message>
@@ -1826,6 +1822,62 @@
     <message>
         <source>It is set up on this machine.</source>
         <translation>Er ist auf diesem Rechner eingerichtet.</translation>
+    </message>
+    <message>
+        <source>Show Do Not Disturb</source>
+        <translation>„Nicht stören“ anzeigen</translation>
+    </message>
+    <message>
+        <source>When it is switched on or off on the desktop.</source>
+        <translation>Wenn der Desktop es ein- oder ausschaltet.</translation>
+    </message>
+    <message>
+        <source>How long the change stays on the island.</source>
+        <translation>Wie lange die Änderung auf der Insel bleibt.</translation>
+    </message>
+    <message>
+        <source>The symbol says enough.</source>
+        <translation>Das Symbol sagt genug.</translation>
+    </message>
+    <message>
+        <source>The charger and the battery are told of meanwhile.</source>
+        <translation>Ladegerät und Akku werden währenddessen gemeldet.</translation>
+    </message>
+    <message>
+        <source>Devices that connect are told of meanwhile.</source>
+        <translation>Geräte, die sich verbinden, werden währenddessen gemeldet.</translation>
+    </message>
+    <message>
+        <source>Changes of the brightness show meanwhile.</source>
+        <translation>Änderungen der Helligkeit erscheinen währenddessen.</translation>
+    </message>
+    <message>
+        <source>Changes of the volume show meanwhile.</source>
+        <translation>Änderungen der Lautstärke erscheinen währenddessen.</translation>
+    </message>
+    <message>
+        <source>Do Not Disturb</source>
+        <translation>Nicht stören</translation>
+    </message>
+    <message>
+        <source>What still shows</source>
+        <translation>Was trotzdem erscheint</translation>
+    </message>
+    <message>
+        <source>This desktop</source>
+        <translation>Dieser Desktop</translation>
+    </message>
+    <message>
+        <source>It does not tell of Do Not Disturb; Plasma and dunst do. Until it does, this page has no effect.</source>
+        <translation>Er meldet „Nicht stören“ nicht; Plasma und dunst tun es. Bis dahin hat diese Seite keine Wirkung.</translation>
+    </message>
+    <message>
+        <source>Do Not Disturb is on.</source>
+        <translation>„Nicht stören“ ist eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>Do Not Disturb is off.</source>
+        <translation>„Nicht stören“ ist ausgeschaltet.</translation>
     </message>
 </context>
 <context>

@@ -1699,10 +1699,6 @@
         <translation>专注</translation>
     </message>
     <message>
-        <source>Quillmere does not follow the desktop&apos;s do-not-disturb yet, so there is nothing to set here.</source>
-        <translation>Quillmere 尚未跟随桌面的勿扰模式，因此这里没有可设置的内容。</translation>
-    </message>
-    <message>
         <source>Display</source>
         <translation>显示器</translation>
     </message>
@@ -1825,6 +1821,62 @@
     <message>
         <source>It is set up on this machine.</source>
         <translation>已在这台电脑上设置好。</translation>
+    </message>
+    <message>
+        <source>Show Do Not Disturb</source>
+        <translation>显示勿扰模式</translation>
+    </message>
+    <message>
+        <source>When it is switched on or off on the desktop.</source>
+        <translation>在桌面开启或关闭勿扰模式时显示。</translation>
+    </message>
+    <message>
+        <source>How long the change stays on the island.</source>
+        <translation>变化在小岛上停留的时间。</translation>
+    </message>
+    <message>
+        <source>The symbol says enough.</source>
+        <translation>图标已足够说明。</translation>
+    </message>
+    <message>
+        <source>The charger and the battery are told of meanwhile.</source>
+        <translation>勿扰期间仍提示充电器和电池状态。</translation>
+    </message>
+    <message>
+        <source>Devices that connect are told of meanwhile.</source>
+        <translation>勿扰期间仍提示设备连接。</translation>
+    </message>
+    <message>
+        <source>Changes of the brightness show meanwhile.</source>
+        <translation>勿扰期间仍显示亮度变化。</translation>
+    </message>
+    <message>
+        <source>Changes of the volume show meanwhile.</source>
+        <translation>勿扰期间仍显示音量变化。</translation>
+    </message>
+    <message>
+        <source>Do Not Disturb</source>
+        <translation>勿扰模式</translation>
+    </message>
+    <message>
+        <source>What still shows</source>
+        <translation>仍会显示的内容</translation>
+    </message>
+    <message>
+        <source>This desktop</source>
+        <translation>此桌面</translation>
+    </message>
+    <message>
+        <source>It does not tell of Do Not Disturb; Plasma and dunst do. Until it does, this page has no effect.</source>
+        <translation>它不提供勿扰状态；Plasma 和 dunst 提供。在此之前，本页设置不起作用。</translation>
+    </message>
+    <message>
+        <source>Do Not Disturb is on.</source>
+        <translation>勿扰模式已开启。</translation>
+    </message>
+    <message>
+        <source>Do Not Disturb is off.</source>
+        <translation>勿扰模式已关闭。</translation>
     </message>
 </context>
 <context>
