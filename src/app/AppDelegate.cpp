@@ -63,7 +63,10 @@ void AppDelegate::applicationDidFinishLaunching()
     createUpdater();
     createOnboarding();
     createStatusItem();
-    createIsland();
+    createPanel();
+    createTools();
+    createAlerts();
+    presentIsland();
     createMonitors();
     createFileDragWatcher();
     subscribeToSettings();
@@ -115,7 +118,7 @@ void AppDelegate::createStatusItem()
                                .onActivate = [this] { showIsland(); }});
 }
 
-void AppDelegate::createIsland()
+void AppDelegate::createPanel()
 {
     floatingPanel_ = std::make_unique<FloatingPanel>(
         platform_.runLoop, platform_.screens, platform_.globalEvents, platform_.notificationCenter,
@@ -133,6 +136,16 @@ void AppDelegate::createIsland()
     floatingPanel_->takesScroll = [this](const ScrollEvent &event) {
         return gestures_ && gestures_->takesScroll(event);
     };
+    gestures_->onSkipMedia = [this](int step) {
+        if (step > 0)
+            media_->nextTrack();
+        else
+            media_->previousTrack();
+    };
+}
+
+void AppDelegate::createTools()
+{
     outputPicker_ =
         std::make_unique<AudioOutputPicker>(platform_.audioHardware, platform_.notificationCenter);
     fileTray_ = std::make_unique<FileTray>(settings_);
@@ -156,12 +169,12 @@ void AppDelegate::createIsland()
     };
     connect(&timers_->wing(), &WingTimer::contentChanged, this, showTimer);
     timers_->setOnShow([this] { showIsland(); });
-    gestures_->onSkipMedia = [this](int step) {
-        if (step > 0)
-            media_->nextTrack();
-        else
-            media_->previousTrack();
-    };
+    systemLoad_ = std::make_unique<SystemLoad>(platform_.runLoop, platform_.hostStatistics,
+                                               settings_, hudManager_);
+}
+
+void AppDelegate::createAlerts()
+{
     const auto isSuppressed = [this] { return hudsAreSuppressed(); };
     focusAlerts_ =
         std::make_unique<FocusAlerts>(platform_.focusState, settings_, hudManager_, isSuppressed);
@@ -181,8 +194,10 @@ void AppDelegate::createIsland()
                                          platform_.localDefaults, settings_, hudManager_);
     weather_->isSuppressed = isSuppressed;
     weather_->isOnShow = [this] { return contentView_->shows(IslandPage::Weather); };
-    systemLoad_ = std::make_unique<SystemLoad>(platform_.runLoop, platform_.hostStatistics,
-                                               settings_, hudManager_);
+}
+
+void AppDelegate::presentIsland()
+{
     if (onIslandCreated)
         onIslandCreated({*floatingPanel_, *contentView_, *outputPicker_, *fileTray_, *media_,
                          *claudeCode_, *weather_, *systemLoad_, *timers_});

@@ -104,7 +104,10 @@ private:
     void createUpdater();
     void createOnboarding();
     void createStatusItem();
-    void createIsland();
+    void createPanel();
+    void createTools();
+    void createAlerts();
+    void presentIsland();
     void createMonitors();
     void createVolumeMonitor();
     void createBrightnessMonitor();
