@@ -15,8 +15,8 @@ DOC = Path(__file__).resolve().parent.parent.parent / "docs" / "settings.md"
 LOCAL = {"cloudFolder", "debugLogEnabled"}
 OTHER_FIELDS = {"Search settings", "Google OAuth client ID"}  # the second belongs to the account's box
 ABSENT = {
-    "Focus", "Lock Screen", "Clipboard", "Camera Mirror", "Network Speed", "App Shortcuts", "Quick Notes",
-    "Bookmarks", "Reminders",
+    "Lock Screen", "Clipboard", "Camera Mirror", "Network Speed", "App Shortcuts", "Quick Notes", "Bookmarks",
+    "Reminders",
 }  # fmt: skip
 
 
