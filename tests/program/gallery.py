@@ -13,6 +13,7 @@ from PIL import Image
 
 IMAGES = Path(__file__).resolve().parent.parent.parent / "docs" / "images"
 HUD, WINGS, PAGE = (440, 100), (440, 60), (660, 240)  # logical units
+MESSAGE = (440, 120)
 
 # Picture of the tour (light wallpaper, 2x) -> name in docs/images and what is cut out around the island.
 PICTURES = {
@@ -22,7 +23,9 @@ PICTURES = {
     "charging": ("charging", HUD),
     "low-battery": ("low-battery", HUD),
     "headset": ("headset", HUD),
-    "file-added": ("file-added", HUD),
+    "file-added": ("file-added", MESSAGE),
+    "google-event": ("calendar", MESSAGE),
+    "google-mail": ("mail", MESSAGE),
     "assistant": ("assistant", WINGS),
     "media-wings": ("media-wings", WINGS),
     "timer-wings": ("timer-wings", WINGS),
@@ -37,6 +40,19 @@ PICTURES = {
 }
 
 
+# Pictures of the tour that are shown whole.
+WHOLE = {
+    "settings-now-playing-light-1x": "settings",
+    "settings-sound-dark-1x": "settings-dark",
+    "setup-welcome-light-1x": "setup",
+}
+
+
+def save(picture, name):
+    # A palette of 256 colours is not seen to differ, and half as large.
+    picture.convert("RGB").quantize(256, dither=Image.Dither.FLOYDSTEINBERG).save(IMAGES / f"{name}.png", optimize=True)
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("tour", type=Path)
@@ -49,9 +65,14 @@ def main():
             continue
         with Image.open(found[0]) as picture:
             left = (picture.width - 2 * width) // 2
-            # A palette of 256 colours is not seen to differ, and half as large.
-            part = picture.convert("RGB").crop((left, 0, left + 2 * width, 2 * height))
-            part.quantize(256, dither=Image.Dither.FLOYDSTEINBERG).save(IMAGES / f"{name}.png", optimize=True)
+            save(picture.crop((left, 0, left + 2 * width, 2 * height)), name)
+    for shown, name in WHOLE.items():
+        found = sorted(tour.glob(f"[0-9]*-{shown}.png"))
+        if not found:
+            missing.append(shown)
+            continue
+        with Image.open(found[0]) as picture:
+            save(picture, name)
     if missing:
         sys.exit("not in the tour: " + ", ".join(missing))
 

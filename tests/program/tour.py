@@ -466,13 +466,13 @@ def visit(album, build, look, scale, kind=PrivateDesktop):
 def visit_google(album, build):
     """News of a Google account; its polls are half a minute apart."""
     with contextlib.ExitStack() as stack:
-        desktop = stack.enter_context(PrivateDesktop(1, "dark"))
+        desktop = stack.enter_context(PrivateDesktop(2, "light"))
         servers = stack.enter_context(GoogleServers(desktop))
         servers.install_browser()
         Keyring(desktop)
         wanted = {"googleClientID": CLIENT_ID, "showGmailHUD": True, "showGoogleCalendarHUD": True}
         island = stack.enter_context(Island(desktop, build, SETTINGS | wanted | {"googlePollInterval": 30.0}))
-        tour = Tour(album, desktop, island, "dark")
+        tour = Tour(album, desktop, island, "light")
         servers.events = [event("soon", "Design review with Grace", 4, hangoutLink="https://meet.example/soon")]
         island.ctl("action", "sign-in-to-google")
         wait_until(lambda: island.hud().get("type") == "calendar", 60, "the event", step=0.2)
