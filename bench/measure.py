@@ -230,6 +230,26 @@ class Measurement:
                 f"{busy / passed / 1e7:.4f} % of a core; {ended} threads ended meanwhile",
             )
 
+    def countdown(self, seconds=20):
+        """A running countdown in the wings, and on its page, which the keyboard turned to."""
+        opened = {"enableCountdownTimer": True, "showSystemMonitor": False, "autoCollapseDelay": 600.0}
+        with self.running(opened) as (desktop, island):
+            island.ctl("perform", "StartCountdownTimerIntent", "minutes=60")
+            time.sleep(5)
+            self.stretch(island, seconds, "a countdown runs, collapsed")
+            island.ctl("action", "toggle-island")
+            while island.get("Page") != "timer":
+                desktop.run("xdotool", "key", "Right")
+                time.sleep(0.5)
+            time.sleep(3)
+            self.stretch(island, seconds, "a countdown runs, its page is open")
+
+    def stretch(self, island, seconds, what):
+        begun = time.monotonic()
+        (voluntary, involuntary, busy), _ = self.activity(island, seconds)
+        passed = time.monotonic() - begun
+        self.row(what, f"{(voluntary + involuntary) / passed:.1f} switches a second, {busy / passed / 1e7:.2f} % of a core")
+
     @staticmethod
     def activity(island, seconds, step=0.25):
         """Switches and processor time of all threads, and how many threads ended.
@@ -347,6 +367,7 @@ def main():
         "opening": measurement.opening,
         "animating": measurement.animating,
         "idle": lambda: measurement.idle(options.minute),
+        "countdown": measurement.countdown,
         "growth": lambda: measurement.growth(options.huds),
         "storm": measurement.storm,
         "cycles": measurement.cycles,

@@ -12,14 +12,18 @@ class Ring : public PaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(double fraction MEMBER fraction_ NOTIFY changed FINAL) // 0..1
+    Q_PROPERTY(double fraction READ fraction WRITE setFraction NOTIFY fractionChanged FINAL) // 0..1
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
     Q_PROPERTY(double thickness MEMBER thickness_ NOTIFY changed FINAL)
 
 public:
     explicit Ring(QQuickItem *parent = nullptr);
 
+    double fraction() const { return fraction_; }
+    void setFraction(double fraction);
+
 Q_SIGNALS:
+    void fractionChanged();
     void changed();
 
 protected:
