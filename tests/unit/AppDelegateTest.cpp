@@ -519,7 +519,7 @@ TEST_F(AppDelegateTest, DoNotDisturbIsToldOfAndHoldsBackWhatItsSettingsSay)
     focus.set(false);
     launch();
     const auto shown = [&] {
-        const QString type = state.hud().value(QStringLiteral("type")).toString();
+        QString type = state.hud().value(QStringLiteral("type")).toString();
         runLoop.advance(10s);
         return type;
     };
