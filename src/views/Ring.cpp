@@ -13,9 +13,11 @@ constexpr int degree = 16; // as QPainter counts
 constexpr int top = 90 * degree;
 constexpr int step = 2; // an eighth of a degree is a quarter of a pixel at 2x, and nobody sees less
 
+constexpr int steps = 360 * degree / step;
+
 int shownAngle(double fraction)
 {
-    return step * static_cast<int>(-360 * degree / step * std::clamp(fraction, 0.0, 1.0));
+    return -step * static_cast<int>(steps * std::clamp(fraction, 0.0, 1.0));
 }
 
 } // namespace
