@@ -19,7 +19,6 @@ from google import CLIENT_ID, GoogleServers, event
 from island import Island, is_black
 from keyring import Keyring
 from players import make_track, start_mpv
-from portal import prefer_dark
 from power import Battery
 from reader import Reader
 from wayland import WaylandDesktop
@@ -488,7 +487,7 @@ def visit_setup(album, build, look, scale, language=None):
     """The setup window step by step, as a keyboard goes through it."""
     with PrivateDesktop(scale, "dark") as desktop:
         if look == "dark":
-            prefer_dark(desktop)
+            Appearance(desktop, DARK)
         if language:
             desktop.env |= {"LC_ALL": "", "LANG": f"{language}.UTF-8"}
         with Island(desktop, build, SETTINGS, first_run=True) as island:
