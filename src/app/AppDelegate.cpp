@@ -175,15 +175,13 @@ void AppDelegate::createTools()
 
 void AppDelegate::createAlerts()
 {
-    const auto isSuppressed = [this] { return hudsAreSuppressed(); };
+    const auto isHeldBack = [this](HUDContent::HUDType type) { return isSuppressed(type); };
     focusAlerts_ =
-        std::make_unique<FocusAlerts>(platform_.focusState, settings_, hudManager_, isSuppressed);
-    powerAlerts_ = std::make_unique<PowerAlerts>(
-        platform_, settings_, hudManager_,
-        [this](HUDContent::HUDType type) { return this->isSuppressed(type); });
-    messages_ = std::make_unique<Messages>(platform_, settings_, hudManager_, QDir::homePath(),
-                                           isSuppressed);
-    google_ = std::make_unique<GoogleAccount>(platform_, settings_, hudManager_, isSuppressed);
+        std::make_unique<FocusAlerts>(platform_.focusState, settings_, hudManager_, isHeldBack);
+    powerAlerts_ = std::make_unique<PowerAlerts>(platform_, settings_, hudManager_, isHeldBack);
+    messages_ =
+        std::make_unique<Messages>(platform_, settings_, hudManager_, QDir::homePath(), isHeldBack);
+    google_ = std::make_unique<GoogleAccount>(platform_, settings_, hudManager_, isHeldBack);
     weather_ =
         std::make_unique<WeatherReports>(WeatherTools{.runLoop = platform_.runLoop,
                                                       .locationManager = platform_.locationManager,
@@ -192,7 +190,7 @@ void AppDelegate::createAlerts()
                                                       .keychain = platform_.keychain,
                                                       .reachability = platform_.reachability},
                                          platform_.localDefaults, settings_, hudManager_);
-    weather_->isSuppressed = isSuppressed;
+    weather_->isSuppressed = [this] { return isSuppressed(HUDContent::HUDType::Weather); };
     weather_->isOnShow = [this] { return contentView_->shows(IslandPage::Weather); };
 }
 
@@ -342,7 +340,7 @@ bool AppDelegate::hudsAreSuppressed() const
 
 bool AppDelegate::isSuppressed(HUDContent::HUDType type) const
 {
-    return hudsAreSuppressed() || !focusAlerts_->allows(type);
+    return hudsAreSuppressed() || !focusAlerts_->allows(type) || !google_->allows(type);
 }
 
 void AppDelegate::scrolledOverCollapsedIsland(double steps)

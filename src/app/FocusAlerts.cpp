@@ -1,5 +1,6 @@
 #include "app/FocusAlerts.h"
 
+#include "app/News.h"
 #include "island/HUDManager.h"
 #include "platform/FocusState.h"
 #include "platform/Symbols.h"
@@ -20,7 +21,7 @@ struct Words {
 } // namespace
 
 FocusAlerts::FocusAlerts(FocusState &focusState, SettingsStore &settings, HUDManager &hudManager,
-                         std::function<bool()> isSuppressed)
+                         std::function<bool(HUDContent::HUDType)> isSuppressed)
     : focusState_(focusState)
     , settings_(settings)
     , hudManager_(hudManager)
@@ -48,13 +49,13 @@ bool FocusAlerts::allows(HUDContent::HUDType type) const
     case Volume:
         return settings_.focusAllowSound.get();
     default:
-        return true;
+        return !isNews(type);
     }
 }
 
 void FocusAlerts::changed(bool isOn)
 {
-    if (!settings_.showFocusHUD.get() || isSuppressed_())
+    if (!settings_.showFocusHUD.get() || isSuppressed_(HUDContent::HUDType::Focus))
         return;
     hudManager_.show({.title = Words::tr("Do Not Disturb"),
                       .subtitle = isOn ? Words::tr("On") : Words::tr("Off"),

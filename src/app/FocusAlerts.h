@@ -16,14 +16,14 @@ class SettingsStore;
 class FocusAlerts
 {
 public:
-    /// While `isSuppressed` there are no HUDs.
+    /// There are no HUDs of the types that `isSuppressed`.
     FocusAlerts(FocusState &focusState, SettingsStore &settings, HUDManager &hudManager,
-                std::function<bool()> isSuppressed);
+                std::function<bool(HUDContent::HUDType type)> isSuppressed);
 
     void start();
     void stop() { changes_.cancel(); }
 
-    /// Whether a HUD of this type may come now. Those that no setting speaks of always may.
+    /// Whether a HUD of this type may come now: what can wait may not, some are up to a setting.
     bool allows(HUDContent::HUDType type) const;
 
 private:
@@ -32,7 +32,7 @@ private:
     FocusState &focusState_;
     SettingsStore &settings_;
     HUDManager &hudManager_;
-    std::function<bool()> isSuppressed_;
+    std::function<bool(HUDContent::HUDType)> isSuppressed_;
     Task changes_;
 };
 

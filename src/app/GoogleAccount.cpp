@@ -1,5 +1,6 @@
 #include "app/GoogleAccount.h"
 
+#include "app/News.h"
 #include "google/CalendarEvents.h"
 #include "island/HUDManager.h"
 #include "messages/MessageHUD.h"
@@ -8,6 +9,8 @@
 
 #include <QDebug>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace quillmere {
@@ -22,7 +25,7 @@ constexpr QLatin1StringView inbox("https://mail.google.com/mail/");
 } // namespace
 
 GoogleAccount::GoogleAccount(Platform &platform, SettingsStore &settings, HUDManager &hudManager,
-                             std::function<bool()> isSuppressed)
+                             std::function<bool(HUDContent::HUDType)> isSuppressed)
     : runLoop_(platform.runLoop)
     , httpClient_(platform.httpClient)
     , settings_(settings)
@@ -38,6 +41,7 @@ GoogleAccount::GoogleAccount(Platform &platform, SettingsStore &settings, HUDMan
                      [this](const QString &key) { settingChanged(key); });
     QObject::connect(&authManager_, &GoogleAuthManager::accountReplaced, &context_, [this] {
         monitor_.reset(); // what it has seen is the other account's
+        day_.reset();
         update();
     });
 }
@@ -71,19 +75,55 @@ void GoogleAccount::signOut()
 
 void GoogleAccount::settingChanged(const QString &key)
 {
-    if (key == settings_.googleAccountEmail.key() || key == settings_.showGmailHUD.key() ||
-        key == settings_.showGoogleCalendarHUD.key())
+    const std::array wants{settings_.googleAccountEmail.key(), settings_.showGmailHUD.key(),
+                           settings_.showGoogleCalendarHUD.key(),
+                           settings_.disableActivityDuringEvents.key(),
+                           settings_.disableWeatherOnEmptyDay.key()};
+    if (std::find(wants.begin(), wants.end(), key) != wants.end())
         return update();
-    if (key == settings_.googlePollInterval.key() && monitor_) {
+    if (key != settings_.googlePollInterval.key())
+        return;
+    if (monitor_) {
         monitor_->stop();
         monitor_->start();
+    }
+    if (day_) {
+        day_->stop();
+        day_->start();
     }
 }
 
 void GoogleAccount::update()
 {
-    const bool isWanted = isStarted_ && authManager_.signedInEmail() &&
-                          (settings_.showGmailHUD.get() || settings_.showGoogleCalendarHUD.get());
+    const bool isSignedIn = isStarted_ && authManager_.signedInEmail();
+    updateMonitor(isSignedIn &&
+                  (settings_.showGmailHUD.get() || settings_.showGoogleCalendarHUD.get()));
+    updateDay(isSignedIn && (settings_.disableActivityDuringEvents.get() ||
+                             settings_.disableWeatherOnEmptyDay.get()));
+}
+
+void GoogleAccount::updateDay(bool isWanted)
+{
+    if (!isWanted)
+        return day_.reset();
+    if (day_)
+        return;
+    day_.emplace(runLoop_, settings_, httpClient_, authManager_);
+    day_->start();
+}
+
+bool GoogleAccount::allows(HUDContent::HUDType type) const
+{
+    if (!day_)
+        return true;
+    if (isNews(type) && settings_.disableActivityDuringEvents.get() && day_->isDuringEvent())
+        return false;
+    return type != HUDContent::HUDType::Weather || !settings_.disableWeatherOnEmptyDay.get() ||
+           !day_->isEmpty();
+}
+
+void GoogleAccount::updateMonitor(bool isWanted)
+{
     if (!isWanted)
         return monitor_.reset();
     if (monitor_)
@@ -118,7 +158,7 @@ void GoogleAccount::showEvent(const QString &title, const QDateTime &start,
 
 void GoogleAccount::show(HUDContent hud, double duration)
 {
-    if (!isSuppressed_())
+    if (!isSuppressed_(hud.type))
         hudManager_.show(std::move(hud), true, duration);
 }
 

@@ -11,7 +11,7 @@
 namespace quillmere {
 
 Messages::Messages(Platform &platform, SettingsStore &settings, HUDManager &hudManager,
-                   QString home, std::function<bool()> isSuppressed)
+                   QString home, std::function<bool(HUDContent::HUDType)> isSuppressed)
     : settings_(settings)
     , icons_(platform.applicationIcons)
     , hudManager_(hudManager)
@@ -96,7 +96,7 @@ void Messages::restartNotifications()
 
 void Messages::show(HUDContent hud, double duration)
 {
-    if (isSuppressed_())
+    if (isSuppressed_(hud.type))
         return;
     if (QImage icon = icons_.icon(hud.bundleID.value_or(QString())); !icon.isNull())
         hud.artworkImage = std::move(icon);

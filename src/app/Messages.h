@@ -1,5 +1,6 @@
 #pragma once
 
+#include "island/HUDContent.h"
 #include "messages/EmailMonitor.h"
 #include "messages/NotificationCenterMonitor.h"
 
@@ -11,7 +12,6 @@ namespace quillmere {
 
 class ApplicationIcons;
 class HUDManager;
-struct HUDContent;
 struct Platform;
 class SettingsStore;
 
@@ -20,9 +20,9 @@ class SettingsStore;
 class Messages
 {
 public:
-    /// While `isSuppressed` there are no HUDs. `home` is where the user's files are.
+    /// There are no HUDs of the types that `isSuppressed`. `home` is where the user's files are.
     Messages(Platform &platform, SettingsStore &settings, HUDManager &hudManager, QString home,
-             std::function<bool()> isSuppressed);
+             std::function<bool(HUDContent::HUDType type)> isSuppressed);
 
     void startMail();
     void startNotifications();
@@ -40,7 +40,7 @@ private:
     SettingsStore &settings_;
     ApplicationIcons &icons_;
     HUDManager &hudManager_;
-    std::function<bool()> isSuppressed_;
+    std::function<bool(HUDContent::HUDType)> isSuppressed_;
     EmailMonitor mail_;
     NotificationCenterMonitor notifications_;
     QObject context_;

@@ -1,18 +1,13 @@
 #include "google/GoogleServicesMonitor.h"
 
 #include "google/CalendarEvents.h"
+#include "google/PollInterval.h"
 #include "settings/SettingsStore.h"
-
-#include <algorithm>
 
 namespace quillmere {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr Duration shortestInterval = 30s;
-constexpr Duration tolerance = 5s;
 constexpr double secondsPerMinute = 60;
 
 } // namespace
@@ -31,9 +26,7 @@ void GoogleServicesMonitor::start()
 {
     if (isRunning())
         return;
-    const Duration interval =
-        std::max(seconds(settings_.googlePollInterval.get()), shortestInterval);
-    timer_ = runLoop_.every(interval, tolerance, [this] { poll(); });
+    timer_ = runLoop_.every(googlePollInterval(settings_), googlePollTolerance, [this] { poll(); });
 }
 
 void GoogleServicesMonitor::poll()

@@ -32,6 +32,15 @@ constexpr std::array google{
            pollSeconds(30, 600, 10)),
 };
 
+constexpr std::array calendarDay{
+    toggle("disableActivityDuringEvents", QT_TRANSLATE_NOOP("Settings", "Quiet during events"),
+           QT_TRANSLATE_NOOP("Settings", "No messages, mail and weather while an event of your "
+                                         "Google calendar is going on.")),
+    toggle("disableWeatherOnEmptyDay",
+           QT_TRANSLATE_NOOP("Settings", "No weather on days without events"),
+           QT_TRANSLATE_NOOP("Settings", "The weather then stays on its page.")),
+};
+
 constexpr std::array googleAccess{
     text("googleClientID", QT_TRANSLATE_NOOP("Settings", "Client ID"),
          QT_TRANSLATE_NOOP("Settings",
@@ -63,6 +72,7 @@ constexpr std::array slack{
 constexpr std::array groups{
     SettingGroup{SettingsPage::Email, QT_TRANSLATE_NOOP("Settings", "New mail"), email},
     SettingGroup{SettingsPage::Google, QT_TRANSLATE_NOOP("Settings", "Gmail and calendar"), google},
+    SettingGroup{SettingsPage::Google, QT_TRANSLATE_NOOP("Settings", "Your day"), calendarDay},
     SettingGroup{SettingsPage::Google, QT_TRANSLATE_NOOP("Settings", "Access"), googleAccess},
     SettingGroup{SettingsPage::Discord, QT_TRANSLATE_NOOP("Settings", "Messages"), discord},
     SettingGroup{SettingsPage::Slack, QT_TRANSLATE_NOOP("Settings", "Messages"), slack},

@@ -30,8 +30,6 @@ constexpr std::array hidden{
     HiddenSetting{QLatin1StringView{"useCalendarColor"}, noCalendar},
     HiddenSetting{QLatin1StringView{"playSoundOnCalendarEvent"}, noCalendar},
     HiddenSetting{QLatin1StringView{"playHourlyChime"}, noCalendar},
-    HiddenSetting{QLatin1StringView{"disableActivityDuringEvents"}, noCalendar},
-    HiddenSetting{QLatin1StringView{"disableWeatherOnEmptyDay"}, noCalendar},
     HiddenSetting{QLatin1StringView{"alwaysShowMonthView"}, noCalendar},
     HiddenSetting{QLatin1StringView{"notifyWhenTimeToLeave"}, noCalendar},
     HiddenSetting{QLatin1StringView{"showLockScreenHUD"}, noLockScreen},

@@ -43,6 +43,7 @@ class GoogleServers:
         self.expires_in = 3600
         self.refusal = None  # of the token endpoint: (status, bytes)
         self.messages, self.events = {}, []  # by id: (from, subject)
+        self.today = []
         self.requests, self.faults = [], []
         self.challenge = self.verifier = None
         owner = self
@@ -114,6 +115,10 @@ class GoogleServers:
         if seen != wanted:
             self.faults.append(f"{what}: {seen!r} instead of {wanted!r}")
 
+    @staticmethod
+    def moment(text):
+        return datetime.datetime.strptime(text, "%Y-%m-%dT%H:%M:%SZ").replace(tzinfo=datetime.timezone.utc)
+
     def agree(self, _request, pairs, _query):
         values = dict(pairs)
         self.expect("the questions", [name for name, _ in pairs], AGREE)
@@ -159,10 +164,15 @@ class GoogleServers:
             self.expect("the fields", query, "format=metadata&metadataHeaders=From&metadataHeaders=Subject")
             names = zip(("From", "Subject"), self.messages[path.rpartition("/")[2]])
             answer = {"payload": {"headers": [{"name": name, "value": value} for name, value in names]}}
+        elif path == "/calendar/v3/calendars/primary/events" and "maxAttendees" in dict(pairs):
+            begin, end = (self.moment(value) for _, value in pairs[:2])
+            self.expect("the day", [begin.astimezone().strftime("%T"), end - begin], ["00:00:00", datetime.timedelta(1)])
+            self.expect("the order", pairs[2:4], [("singleEvents", "true"), ("orderBy", "startTime")])
+            answer = {"items": self.today}
         elif path == "/calendar/v3/calendars/primary/events":
             names = ["timeMin", "timeMax", "singleEvents", "orderBy", "maxResults"]
             self.expect("the window", [name for name, _ in pairs], names)
-            begin, end = (datetime.datetime.strptime(value, "%Y-%m-%dT%H:%M:%SZ") for _, value in pairs[:2])
+            begin, end = (self.moment(value) for _, value in pairs[:2])
             self.expect("its length", end - begin, datetime.timedelta(minutes=5))
             self.expect("the order", pairs[2:], [("singleEvents", "true"), ("orderBy", "startTime"), ("maxResults", "5")])
             answer = {"items": self.events}
@@ -176,4 +186,6 @@ def event(id, summary, minutes, **more):
     """One that begins so many minutes from now, in another time zone."""
     zone = datetime.timezone(datetime.timedelta(hours=2))
     start = datetime.datetime.now(zone).replace(microsecond=0) + datetime.timedelta(minutes=minutes)
-    return {"id": id, "summary": summary, "start": {"dateTime": start.isoformat()}} | more
+    end = start + datetime.timedelta(hours=1)
+    times = {"start": {"dateTime": start.isoformat()}, "end": {"dateTime": end.isoformat()}}
+    return {"id": id, "summary": summary} | times | more

@@ -56,7 +56,7 @@ class GoogleTest(DesktopTest):
     def test_news_of_an_account_until_it_is_revoked(self):
         keyring = Keyring(self.desktop)
         self.servers.expires_in = 61  # every poll has to refresh
-        self.start(showGmailHUD=True, showGoogleCalendarHUD=True)
+        self.start(showGmailHUD=True, showGoogleCalendarHUD=True, disableActivityDuringEvents=True)
         self.assertEqual(self.servers.requests, [])
         self.sign_in()
         wait_until(self.is_unregistered, what="the end of the handler")
@@ -88,9 +88,17 @@ class GoogleTest(DesktopTest):
         self.assertLessEqual(told, {"Lünch?", "Lunch"})
         self.assertEqual(self.leaks(), [])
 
+        # From now on there is a meeting; the next message waits for nobody.
+        self.servers.today = [event("now", "Meeting", -1)]
+        asked = len(self.servers.paths())
+        wait_until(lambda: any("maxAttendees" in path for path in self.servers.paths()[asked:]), 45, "the day", step=0.2)
+        self.servers.messages = {"unheard": ("Ada <ada@example.org>", "Not now")} | self.servers.messages
+        wait_until(lambda: any("/unheard?" in path for path in self.servers.paths()), 45, "the message", step=0.2)
+
         self.servers.refusal = (400, b'{"error": "invalid_grant"}')
         wait_until(lambda: not keyring.lookup(SERVICE, ACCOUNT), 45, "the end of the token", step=0.2)
         wait_until(lambda: not self.email(), what="the end of the account")
+        self.assertNotIn("Not now", self.activities())
         self.assertEqual(self.servers.faults, [])
         self.assertNotIn("poll failed", self.island.output())
 

@@ -3,6 +3,7 @@
 #include "app/MediaPlayback.h"
 #include "app/PowerAlerts.h"
 #include "app/QuillmereApp.h"
+#include "app/WeatherReports.h"
 #include "island/ContentView.h"
 #include "island/FloatingPanel.h"
 #include "platform/Platform.h"
@@ -83,6 +84,13 @@ protected:
     {
         audio.change(speakers, AudioProperty::VirtualMainVolume, level);
         runLoop.settle();
+    }
+
+    void sendSlackMessage()
+    {
+        notificationFeed.listeners.notify({.appID = QStringLiteral("slack"),
+                                           .title = QStringLiteral("Ada"),
+                                           .uuid = QString::number(++messages)});
     }
 
     bool showsHUD() const
@@ -178,6 +186,7 @@ protected:
     AudioDeviceID speakers = 0;
     int terminations = 0;
     int setups = 0;
+    int messages = 0;
     mutable std::optional<QuillmereApp> app;
 };
 
@@ -545,6 +554,7 @@ TEST_F(AppDelegateTest, DoNotDisturbIsToldOfAndHoldsBackWhatItsSettingsSay)
              runLoop.settle();
          }},
     };
+    defaults.changeFromOutside(QStringLiteral("showSlackHUD"), true);
     for (const auto &[setting, type, change] : cases) {
         SCOPED_TRACE(setting);
         const auto key = QString::fromLatin1(setting);
@@ -565,6 +575,75 @@ TEST_F(AppDelegateTest, DoNotDisturbIsToldOfAndHoldsBackWhatItsSettingsSay)
     defaults.changeFromOutside(QStringLiteral("showFocusHUD"), false);
     focus.set(true);
     EXPECT_EQ(shown(), QString());
+    sendSlackMessage();
+    EXPECT_EQ(shown(), QString());
+    focus.set(false);
+    sendSlackMessage();
+    EXPECT_EQ(shown(), QStringLiteral("notification"));
+}
+
+TEST_F(AppDelegateTest, TheCalendarKeepsMessagesAndWeatherBack)
+{
+    defaults.values = {
+        {QStringLiteral("googleAccountEmail"), QStringLiteral("ada@example.org")},
+        {QStringLiteral("googleClientID"), QStringLiteral("1.apps.googleusercontent.com")},
+        {QStringLiteral("disableActivityDuringEvents"), true},
+        {QStringLiteral("showSlackHUD"), true},
+        {QStringLiteral("expandNotchOnHover"), false}};
+    keychain.secret = QStringLiteral("refresh");
+    runLoop.setWallClock(std::chrono::sys_days(std::chrono::year(2026) / 5 / 1) + 12h);
+    QByteArray events = R"({"start":{"dateTime":"2026-05-01T12:01:00Z"},
+                            "end":{"dateTime":"2026-05-01T12:03:00Z"}})";
+    bool isUp = true;
+    const auto serve = [&](Duration span) {
+        for (runLoop.advance(span); http.waiting() > 0; runLoop.advance(0s)) {
+            const QUrl url = http.requests.at(http.requests.size() - http.waiting()).url;
+            const bool isToken = url.path() == QStringLiteral("/token");
+            const QByteArray body = isToken ? R"({"access_token":"at","expires_in":3600})"
+                                            : QByteArray(R"({"items":[)" + events + "]}");
+            http.answer(isUp ? HttpResult(HttpResponse{200, {}, body})
+                             : tl::unexpected(HttpError{}));
+        }
+    };
+    const auto shows = [&](const std::function<void()> &act) {
+        act();
+        const bool is = !state.hud().isEmpty();
+        runLoop.advance(6s);
+        return is;
+    };
+    const auto message = [this] { sendSlackMessage(); };
+    double temperature = 10;
+    const auto weather = [this, &temperature] {
+        app->appDelegate().weather()->service().onWeatherUpdate({.temperature = ++temperature});
+    };
+    launch();
+    serve(0s);
+    EXPECT_TRUE(shows(message)) << "it has not begun";
+    isUp = false;
+    serve(60s);
+    EXPECT_FALSE(shows(message)) << "an outage does not end a meeting";
+    EXPECT_FALSE(shows(weather));
+    EXPECT_TRUE(shows([this] { setVolume(0.7F); })) << "what the user does is answered";
+    serve(110s);
+    EXPECT_TRUE(shows(message)) << "it is over";
+
+    isUp = true;
+    defaults.changeFromOutside(QStringLiteral("disableWeatherOnEmptyDay"), true);
+    serve(60s);
+    EXPECT_TRUE(shows(weather));
+    events.clear();
+    serve(65s);
+    EXPECT_FALSE(shows(weather));
+    EXPECT_TRUE(shows(message));
+    serve(24h);
+    isUp = false;
+    serve(24h);
+    EXPECT_TRUE(shows(weather)) << "nothing is known of this day";
+    const auto asked = http.requests.size();
+    defaults.changeFromOutside(QStringLiteral("disableActivityDuringEvents"), false);
+    defaults.changeFromOutside(QStringLiteral("disableWeatherOnEmptyDay"), false);
+    runLoop.advance(10min);
+    EXPECT_EQ(http.requests.size(), asked) << "nobody wants to know";
 }
 
 TEST_F(AppDelegateTest, AHeadsetIsAnnouncedOnceAndItsChargeJoinsLater)

@@ -1,5 +1,6 @@
 #include "google/Backoff.h"
 #include "google/CalendarEvents.h"
+#include "google/DayEvents.h"
 #include "google/GmailMessages.h"
 #include "google/ISO8601.h"
 #include "google/TokenRequest.h"
@@ -148,6 +149,39 @@ TEST(CalendarEventsTest, TheFirstThatIsStillToComeIsElected)
     EXPECT_FALSE(eventToAnnounce(answer, notified, now));
     const QDateTime local(QDate(2026, 5, 1), QTime(14, 5));
     EXPECT_EQ(calendarHUD(u"x"_s, local.toUTC(), {}).subtitle, u"2:05 PM"_s);
+}
+
+TEST(DayEventsTest, WhatTakesPlaceAndWhatOneIsBusyWith)
+{
+    const QByteArray ten = R"({"start":{"dateTime":"2026-05-01T10:00:00+02:00"},
+                               "end":{"dateTime":"2026-05-01T09:00:00Z"})";
+    const struct {
+        QByteArray items;
+        bool isEmpty, isBusy;
+    } cases[] = {
+        {"[]", true, false},
+        {"[" + ten + "}]", false, true},
+        {"[" + ten + R"(,"transparency":"transparent"}])", false, false},
+        {"[" + ten + R"(,"attendees":[{"responseStatus":"declined"}]}])", false, true},
+        {"[" + ten + R"(,"attendees":[{"self":true,"responseStatus":"declined"}]}])", true, false},
+        {"[" + ten + R"(,"status":"cancelled"}])", true, false},
+        {"[" + ten + R"(,"eventType":"workingLocation"}])", true, false},
+        {R"([{"start":{"date":"2026-05-01"},"end":{"date":"2026-05-02"}}])", false, false},
+        {R"([{"start":{"dateTime":"2026-05-01T08:00:00Z"},"end":{"dateTime":"soon"}}])", false,
+         false},
+        {"[7]", true, false}};
+    const auto at = [](int hour, int second) {
+        return QDateTime(QDate(2026, 5, 1), QTime(hour, 0), Qt::UTC).addSecs(second);
+    };
+    for (const auto &[items, isEmpty, isBusy] : cases) {
+        const auto day = dayEvents(object(R"({"items":)" + items + '}'));
+        ASSERT_TRUE(day) << items.toStdString();
+        EXPECT_EQ(day->isEmpty, isEmpty) << items.toStdString();
+        EXPECT_EQ(day->isBusy(at(8, 0)), isBusy) << items.toStdString();
+        EXPECT_FALSE(day->isBusy(at(8, -1))) << "before it begins";
+        EXPECT_FALSE(day->isBusy(at(9, 0))) << "it is over";
+    }
+    EXPECT_FALSE(dayEvents({})) << "no list is not an empty one";
 }
 
 TEST(SeenSetTest, WhatIsStillListedIsNeverForgotten)
