@@ -88,7 +88,7 @@ class GoogleTest(DesktopTest):
         self.assertLessEqual(told, {"Lünch?", "Lunch"})
         self.assertEqual(self.leaks(), [])
 
-        # From now on there is a meeting; the next message waits for nobody.
+        # A message that comes during a meeting is fetched, but not shown.
         self.servers.today = [event("now", "Meeting", -1)]
         asked = len(self.servers.paths())
         wait_until(lambda: any("maxAttendees" in path for path in self.servers.paths()[asked:]), 45, "the day", step=0.2)
