@@ -26,9 +26,15 @@ PICTURES = {
     "file-added": ("file-added", MESSAGE),
     "google-event": ("calendar", MESSAGE),
     "google-mail": ("mail", MESSAGE),
+    "message": ("message", MESSAGE),
+    "weather-hud": ("weather-hud", MESSAGE),
+    "do-not-disturb": ("do-not-disturb", MESSAGE),
+    "timer-complete": ("timer-complete", MESSAGE),
     "assistant": ("assistant", WINGS),
+    "weather-wings": ("weather-wings", WINGS),
     "media-wings": ("media-wings", WINGS),
     "timer-wings": ("timer-wings", WINGS),
+    "dashboard-activity": ("activities", PAGE),
     "media": ("media", PAGE),
     "weather": ("weather", PAGE),
     "system": ("system", PAGE),
@@ -48,9 +54,27 @@ WHOLE = {
 }
 
 
+SHEET = 4, 420  # pictures beside each other, and how wide each is
+
+
 def save(picture, name):
     # A palette of 256 colours is not seen to differ, and half as large.
     picture.convert("RGB").quantize(256, dither=Image.Dither.FLOYDSTEINBERG).save(IMAGES / f"{name}.png", optimize=True)
+
+
+def sheet(pictures):
+    """All of them, small, in the order of the tour."""
+    columns, width = SHEET
+    with Image.open(pictures[0]) as first:
+        height = width * first.height // first.width
+    rows = -(-len(pictures) // columns)
+    gap = 8
+    whole = Image.new("RGB", (columns * (width + gap) - gap, rows * (height + gap) - gap), "white")
+    for number, path in enumerate(pictures):
+        with Image.open(path) as picture:
+            small = picture.convert("RGB").resize((width, height), Image.Resampling.LANCZOS)
+        whole.paste(small, (number % columns * (width + gap), number // columns * (height + gap)))
+    return whole
 
 
 def main():
@@ -73,6 +97,11 @@ def main():
             continue
         with Image.open(found[0]) as picture:
             save(picture, name)
+    pages = sorted(tour.glob("[0-9]*-settings-*-light-2x.png"))
+    if pages:
+        save(sheet(pages), "settings-pages")
+    else:
+        missing.append("the pages of the settings")
     if missing:
         sys.exit("not in the tour: " + ", ".join(missing))
 

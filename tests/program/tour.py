@@ -28,7 +28,7 @@ STRIP = 300  # logical units of the screen's top that a screenshot shows
 PAGES = ("main", "weather", "system", "fileTray", "timer")
 SETTINGS = {
     "autoCollapseDelay": 0.7, "showFileTray": True, "idleActivityMostRecent": True, "enableClaudeCode": True,
-    "batteryHUDDuration": 2.0, "enablePomodoro": True, "enableCountdownTimer": True,
+    "batteryHUDDuration": 2.0, "enablePomodoro": True, "enableCountdownTimer": True, "showSlackHUD": True,
 }  # fmt: skip
 
 
@@ -310,6 +310,20 @@ class Tour:
         self.settled("dashboard-activity")
         self.leave()
 
+    def messages(self):
+        """Somebody writes; then nobody is to disturb."""
+        self.desktop.run("notify-send", "-a", "Slack", "-h", "string:desktop-entry:slack", "Grace Hopper",
+                         "The tests are green, shall we ship it after lunch?")  # fmt: skip
+        wait_until(lambda: self.island.hud().get("type") == "notification", what="the message")
+        self.settled("message")
+        self.desktop.run("dunstctl", "set-paused", "true")
+        wait_until(lambda: self.island.hud().get("type") == "focus", what="the HUD of Do Not Disturb")
+        self.settled("do-not-disturb")
+        self.desktop.run("dunstctl", "set-paused", "false")
+        wait_until(lambda: self.island.hud().get("subtitle") == "Off", what="its end")
+        self.settled("do-not-disturb-off")
+        self.island.wait_until_collapsed(timeout=10)
+
     def media(self):
         """A playlist: with cover art, with a title beyond its line, without cover art."""
         bus, folder = Bus(self.desktop), self.desktop.dir
@@ -453,6 +467,7 @@ def visit(album, build, look, scale, kind=PrivateDesktop):
             if (look, scale) in (("dark", 1), ("light", 2)):
                 tour.battery(battery)
                 tour.headset()
+                tour.messages()
                 tour.activity()
                 tour.media()
                 tour.drags()
