@@ -2,8 +2,6 @@
 
 #include <QByteArrayView>
 
-#include <xcb/xfixes.h>
-
 #include <algorithm>
 #include <chrono>
 #include <span>
@@ -53,7 +51,7 @@ X11DragPasteboard::X11DragPasteboard(X11Observer &observer)
         return;
     events_ = connection_.onEvent([this](const xcb_generic_event_t &event) { handle(event); });
     createWindow();
-    watchOwner();
+    selection_.start(connection_, window_, atoms_.dragSelection);
     connection_.flush();
 }
 
@@ -74,20 +72,6 @@ void X11DragPasteboard::createWindow()
                       &events);
 }
 
-void X11DragPasteboard::watchOwner()
-{
-    const auto *xfixes = xcb_get_extension_data(connection_.raw(), &xcb_xfixes_id);
-    if (!xfixes || !xfixes->present)
-        return;
-    xfixesEvents_ = xfixes->first_event;
-    connection_.await<xcb_xfixes_query_version_reply_t>(
-        owner_, xcb_xfixes_query_version(connection_.raw(), 2, 0), [](const auto *) {});
-    xcb_xfixes_select_selection_input(connection_.raw(), window_, atoms_.dragSelection,
-                                      XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
-                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
-                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
-}
-
 void X11DragPasteboard::containsFileURLs(const Owner &owner, std::function<void(bool)> answer)
 {
     if (step_ == Step::Known || !connection_.isOpen())
@@ -100,10 +84,8 @@ void X11DragPasteboard::containsFileURLs(const Owner &owner, std::function<void(
 void X11DragPasteboard::handle(const xcb_generic_event_t &event)
 {
     const int type = event.response_type & 0x7f;
-    if (xfixesEvents_ && type == *xfixesEvents_ + XCB_XFIXES_SELECTION_NOTIFY) {
-        const auto &change = reinterpret_cast<const xcb_xfixes_selection_notify_event_t &>(event);
-        if (change.selection == atoms_.dragSelection)
-            ownerChanged(change.owner, change.selection_timestamp);
+    if (const auto *change = selection_.change(event)) {
+        ownerChanged(change->owner, change->selection_timestamp);
     } else if (type == XCB_SELECTION_NOTIFY) {
         delivered(reinterpret_cast<const xcb_selection_notify_event_t &>(event));
     } else if (type == XCB_PROPERTY_NOTIFY) {

@@ -2,6 +2,7 @@
 
 #include "platform/DragPasteboard.h"
 #include "platform/linux/window/X11Observer.h"
+#include "platform/linux/window/XcbSelectionWatch.h"
 
 #include <optional>
 #include <vector>
@@ -35,7 +36,6 @@ private:
         std::function<void(bool)> answer;
     };
 
-    void watchOwner();
     void createWindow();
     void handle(const xcb_generic_event_t &event);
     void ownerChanged(xcb_window_t owner, xcb_timestamp_t time);
@@ -51,8 +51,8 @@ private:
 
     XcbConnection &connection_;
     const X11Atoms &atoms_;
-    std::optional<std::uint8_t> xfixesEvents_; // the number of its first event
-    xcb_window_t window_ = XCB_WINDOW_NONE;    // takes the answers
+    XcbSelectionWatch selection_;
+    xcb_window_t window_ = XCB_WINDOW_NONE; // takes the answers
 
     int changeCount_ = 0;
     xcb_timestamp_t ownedSince_ = XCB_CURRENT_TIME;

@@ -73,17 +73,7 @@ void X11Observer::watchRoot()
 
 void X11Observer::watchCompositor()
 {
-    const auto *xfixes = xcb_get_extension_data(connection_.raw(), &xcb_xfixes_id);
-    if (!xfixes || !xfixes->present)
-        return;
-    xfixesEvents_ = xfixes->first_event;
-    // The extension answers nobody who has not named a version.
-    connection_.await<xcb_xfixes_query_version_reply_t>(
-        owner_, xcb_xfixes_query_version(connection_.raw(), 2, 0), [](const auto *) {});
-    xcb_xfixes_select_selection_input(connection_.raw(), connection_.root(), atoms_.compositor,
-                                      XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
-                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
-                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
+    compositor_.start(connection_, connection_.root(), atoms_.compositor);
     // Waited for, since the first frame could come out in the wrong shape without it.
     const XcbReply<xcb_get_selection_owner_reply_t> first(xcb_get_selection_owner_reply(
         connection_.raw(), xcb_get_selection_owner(connection_.raw(), atoms_.compositor), nullptr));
@@ -106,9 +96,8 @@ void X11Observer::handle(const xcb_generic_event_t &event)
     } else if (type == XCB_MAP_NOTIFY) {
         if (as<xcb_map_notify_event_t>(event).window == activeWindow_)
             queryFullscreen();
-    } else if (xfixesEvents_ && type == *xfixesEvents_ + XCB_XFIXES_SELECTION_NOTIFY) {
-        if (as<xcb_xfixes_selection_notify_event_t>(event).selection == atoms_.compositor)
-            queryCompositor();
+    } else if (compositor_.change(event)) {
+        queryCompositor();
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/linux/window/X11Atoms.h"
 #include "platform/linux/window/XcbConnection.h"
+#include "platform/linux/window/XcbSelectionWatch.h"
 
 #include <QRect>
 
@@ -48,7 +49,7 @@ private:
 
     XcbConnection connection_;
     X11Atoms atoms_;
-    std::optional<std::uint8_t> xfixesEvents_; // the number of its first event
+    XcbSelectionWatch compositor_;
 
     xcb_window_t activeWindow_ = XCB_WINDOW_NONE;
     int fullscreenQueries_ = 0; // on their way
