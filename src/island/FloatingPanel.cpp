@@ -116,7 +116,8 @@ void FloatingPanel::orderFront()
 
 void FloatingPanel::setKey(bool key)
 {
-    window_.setKey(key);
+    wantsKey_ = key;
+    window_.setKey(key && visible_);
 }
 
 void FloatingPanel::mouseDown()
@@ -133,7 +134,8 @@ void FloatingPanel::scrollWheel(const ScrollEvent &event)
         notificationCenter_.post(events::islandScrolled, {{events::scrollDirection, direction}});
     }
     const bool taken = takesScroll && takesScroll(event);
-    if (!taken && size().height() <= collapsedHeightLimit)
+    // A HUD below a camera housing is no larger for it; the wheel goes on while the volume shows.
+    if (!taken && size().height() - housingHeight_ <= collapsedHeightLimit)
         collapsedScroll(event);
 }
 
@@ -215,7 +217,11 @@ void FloatingPanel::updateVisibility()
     if (visible == visible_)
         return;
     visible_ = visible;
+    if (wantsKey_ && !visible) // or what is typed would go nowhere
+        window_.setKey(false);
     window_.setVisible(visible);
+    if (wantsKey_ && visible)
+        window_.setKey(true);
 }
 
 void FloatingPanel::clickedAnywhere(QPointF position)

@@ -61,7 +61,7 @@ public:
 
     void orderFront();
 
-    /// Whether what is typed goes to the panel.
+    /// Whether what is typed goes to the panel, while it is to be seen.
     void setKey(bool key);
 
     /// A press on the island that no control of it took.
@@ -105,6 +105,7 @@ private:
     double alpha_ = 0;
     double scrolledPoints_ = 0; // of a touchpad, towards the next whole step
     bool idle_ = true;
+    bool wantsKey_ = false;
     bool visible_ = false;
 
     Task globalClickMonitor_;

@@ -151,6 +151,14 @@ class MannersTest(DesktopTest):
         island.wait_until_collapsed()  # by itself
         wait_until(lambda: "neighbour" in self.typed_in(), 3, "the keyboard to go back")
 
+        guest = self.desktop.spawn(["xev", "-name", "guest"], "guest.log")
+        wait_until(lambda: "guest" in self.typed_in(), 5, "a window that is left meanwhile")
+        island.toggle()
+        wait_until(lambda: "guest" not in self.typed_in(), 3, "the keyboard")
+        end_process(guest)
+        island.wait_until_collapsed()
+        wait_until(lambda: "neighbour" in self.typed_in(), 3, "the keyboard to go to who is left")
+
     def test_opening_and_closing_take_nothing_from_the_neighbour(self):
         self.start_neighbour()
         island = self.start_island()
@@ -204,8 +212,13 @@ class MannersTest(DesktopTest):
         wait_until(is_shown, 5, "the pill over the film")
         island.write_defaults({"hideInFullscreen": True})
         wait_until(lambda: not is_shown(), 5, "the pill to hide")
+        island.write_defaults({"disableInFullscreen": True})
+        island.toggle()  # where it is not to be seen it takes no keys, neither now nor later
+        island.wait_for("Presentation", "expanded")
+        island.wait_until_collapsed()
         end_process(film)
         wait_until(is_shown, 5, "the pill")
+        self.assertNotIn("Quillmere", self.typed_in())
 
     def test_is_on_every_desktop(self):
         island = self.start_island()

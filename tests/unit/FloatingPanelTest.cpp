@@ -237,6 +237,15 @@ TEST_F(FloatingPanelTest, CollapsedScrollCountsNotches)
     panel->setSize({300, 50});
     panel->scrollWheel({0, 10, false});
     EXPECT_THAT(steps, ElementsAre(1));
+
+    steps.clear();
+    screens.list = {FakeScreens::notched(QStringLiteral("N"), {0, 0, 1512, 982}, 32, 663, 849)};
+    panel->displaysDidChange();
+    panel->setSize({300, 82}); // the volume, below a housing
+    panel->scrollWheel({0, 10, false});
+    panel->setSize({300, 82.1});
+    panel->scrollWheel({0, 10, false});
+    EXPECT_THAT(steps, ElementsAre(1));
 }
 
 TEST_F(FloatingPanelTest, FullscreenIsAnsweredLive)
@@ -264,11 +273,15 @@ TEST_F(FloatingPanelTest, FullscreenIsAnsweredLive)
         EXPECT_EQ(panel->suppressesHUDs(), c.suppresses)
             << c.hide << c.disable << c.covered << c.idle;
     }
+    window.setCovered(true);
     panel->setIdle(true);
     settings.hideInFullscreen.set(true);
-    EXPECT_FALSE(window.visible);
+    panel->setKey(true);
+    EXPECT_FALSE(window.visible || window.key) << "what is typed is the film's";
     settings.hideInFullscreen.set(false);
-    EXPECT_TRUE(window.visible);
+    EXPECT_TRUE(window.visible && window.key);
+    settings.hideInFullscreen.set(true);
+    EXPECT_FALSE(window.visible || window.key);
 }
 
 } // namespace

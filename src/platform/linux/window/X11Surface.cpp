@@ -89,8 +89,23 @@ xcb_window_t X11Surface::focusedWindow() const
 
 void X11Surface::returnFocus(xcb_window_t window) const
 {
-    if (focusedWindow() == window_)
-        xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
+    if (focusedWindow() != window_)
+        return;
+    // Window managers look for another window when the focus falls back to the root.
+    const xcb_window_t heir =
+        canHaveFocus(window) ? window : xcb_window_t{XCB_INPUT_FOCUS_POINTER_ROOT};
+    xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_POINTER_ROOT, heir, XCB_CURRENT_TIME);
+}
+
+bool X11Surface::canHaveFocus(xcb_window_t window) const
+{
+    if (window <= XCB_INPUT_FOCUS_POINTER_ROOT) // no window at all
+        return window == XCB_INPUT_FOCUS_POINTER_ROOT;
+    const std::unique_ptr<xcb_get_window_attributes_reply_t, void (*)(void *)> reply(
+        xcb_get_window_attributes_reply(connection_, xcb_get_window_attributes(connection_, window),
+                                        nullptr),
+        std::free);
+    return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
 void X11Surface::flush() const

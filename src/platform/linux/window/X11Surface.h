@@ -31,13 +31,15 @@ public:
     /// The window that has the keyboard now; XCB_NONE without one.
     xcb_window_t focusedWindow() const;
 
-    /// Gives the keyboard to `window`, unless the user has taken it elsewhere already.
+    /// Gives the keyboard to `window`, unless the user has taken it elsewhere already. If that one
+    /// has gone, the window manager chooses.
     void returnFocus(xcb_window_t window) const;
 
     void flush() const;
 
 private:
     X11Surface(xcb_connection_t *connection, xcb_window_t window);
+    bool canHaveFocus(xcb_window_t window) const;
 
     xcb_connection_t *connection_;
     xcb_window_t window_;
