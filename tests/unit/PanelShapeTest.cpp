@@ -70,6 +70,20 @@ TEST(ScreenMapping, SharesCornersAndScalesFromThere)
     EXPECT_EQ(second.toLogical({3024 + 201, -100 + 60}), QPointF(3124.5, -70));
 }
 
+TEST(ScreenMapping, TheLowerOfTwoScreensCarriesWhatHangsBetweenThem)
+{
+    const QRect upper(0, 0, 1920, 1080);
+    const QRect lower(0, 1080, 1440, 900);
+    const QRect right(1920, 0, 800, 600);
+    const auto carriers = [&](const QRectF &frame) {
+        return QList<bool>{carries(upper, frame), carries(lower, frame), carries(right, frame)};
+    };
+    EXPECT_EQ(carriers({620, 1080, 200, 32}), (QList<bool>{false, true, false}));
+    EXPECT_EQ(carriers({860, 0, 200, 32}), (QList<bool>{true, false, false}));
+    EXPECT_EQ(carriers({1820, 0, 200, 32}), (QList<bool>{false, false, true}));
+    EXPECT_EQ(carriers({860.25, -0.5, 200, 32}), (QList<bool>{false, false, false}));
+}
+
 TEST(QtScreensTest, InternalConnectors)
 {
     for (const char *name : {"eDP", "eDP-1", "eDP-1-1", "EDP-2", "LVDS-1", "DSI-1"})

@@ -30,11 +30,17 @@ QPointF toLogical(QPoint native)
     return native;
 }
 
-QScreen *screenAbove(const QRectF &frame)
+bool carries(const QRect &screen, const QRectF &frame)
 {
     const QPointF topCentre(frame.center().x(), frame.top());
+    return topCentre.x() >= screen.x() && topCentre.x() < screen.x() + screen.width() &&
+           topCentre.y() >= screen.y() && topCentre.y() < screen.y() + screen.height();
+}
+
+QScreen *screenAbove(const QRectF &frame)
+{
     for (QScreen *screen : QGuiApplication::screens()) {
-        if (QRectF(screen->geometry()).contains(topCentre))
+        if (carries(screen->geometry(), frame))
             return screen;
     }
     return nullptr;

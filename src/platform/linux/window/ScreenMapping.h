@@ -23,6 +23,10 @@ struct ScreenMapping {
 /// A native, global point in logical, global units; a point on no screen is left as it is.
 QPointF toLogical(QPoint native);
 
+/// Whether a frame that hangs from its top edge hangs in this screen. The right and the lower edge
+/// belong to the neighbours.
+bool carries(const QRect &screen, const QRectF &frame);
+
 /// The screen that carries a frame which hangs from its top edge; null for none.
 QScreen *screenAbove(const QRectF &frame);
 
