@@ -168,6 +168,8 @@ void AppDelegate::createTools()
         wings_->setTimerText(content ? content->text : QString());
     };
     connect(&timers_->wing(), &WingTimer::contentChanged, this, showTimer);
+    connect(&timers_->wing(), &WingTimer::underWayChanged, this,
+            [this] { contentView_->setTimerUnderWay(timers_->wing().isUnderWay()); });
     timers_->setOnShow([this] { showIsland(); });
     systemLoad_ = std::make_unique<SystemLoad>(platform_.runLoop, platform_.hostStatistics,
                                                settings_, hudManager_);

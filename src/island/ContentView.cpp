@@ -4,7 +4,6 @@
 #include "island/FloatingPanel.h"
 #include "island/HUDManager.h"
 #include "island/IdleWings.h"
-#include "island/IslandDebugLogger.h"
 #include "platform/Haptics.h"
 #include "platform/NotificationCenter.h"
 #include "settings/SettingsStore.h"
@@ -109,7 +108,7 @@ void ContentView::observe(NotificationCenter &notificationCenter)
         Q_EMIT wingsChanged();
     };
     connect(&wings_, &IdleWings::contentChanged, this, wingsHaveChanged);
-    connect(&wings_, &IdleWings::contentChanged, this, &ContentView::offerPages);
+    connect(&pages_, &IslandPages::pageChanged, this, &ContentView::offerPages);
     connect(&hudManager_, &HUDManager::hudQueueChanged, this, wingsHaveChanged);
     connect(&hudManager_, &HUDManager::currentQueueIndexChanged, this, wingsHaveChanged);
     connect(&settings_, &SettingsStore::didChange, this, [this](const QString &key) {
@@ -129,9 +128,10 @@ void ContentView::offerPages()
         pages.append(IslandPage::System);
     if (settings_.showFileTray.get())
         pages.append(IslandPage::FileTray);
-    // One that was started from outside has to be stopped somewhere.
+    // One that was started from outside has to be stopped somewhere, and its page does not go while
+    // it is looked at.
     if (settings_.enablePomodoro.get() || settings_.enableCountdownTimer.get() ||
-        wings_.content().timer)
+        timerIsUnderWay_ || shows(IslandPage::Timer))
         pages.append(IslandPage::Timer);
     pages_.offer(pages);
 }
@@ -154,6 +154,12 @@ std::optional<HUDContent> ContentView::idleActivity() const
     if (!wings_.content().activity || queue.isEmpty())
         return std::nullopt;
     return queue.at(hudManager_.currentQueueIndex());
+}
+
+void ContentView::setTimerUnderWay(bool isUnderWay)
+{
+    timerIsUnderWay_ = isUnderWay;
+    offerPages();
 }
 
 void ContentView::pointerEntered()
@@ -273,6 +279,7 @@ void ContentView::hudPresented()
         playHaptic();
         logCollapse(QStringLiteral("EXPAND_TEMP"));
         shownHUD_ = hud;
+        hoverOutChecks_.clear(); // they were about what the HUD has replaced
         setState(true, false);
         Q_EMIT shownHUDChanged();
     }
@@ -388,8 +395,10 @@ void ContentView::setState(bool isExpanded, bool userExpanded)
     updateSize();
     if (presentation() != Presentation::Expanded)
         keyboardLeft();
-    if (presentation() != before)
+    if (presentation() != before) {
+        offerPages();
         Q_EMIT presentationChanged();
+    }
     if (hudEnded)
         Q_EMIT shownHUDChanged();
 }
@@ -419,9 +428,9 @@ void ContentView::playHaptic()
         haptics_.performFeedback();
 }
 
-void ContentView::logCollapse(const QString &message)
+void ContentView::logCollapse(const QString &message, IslandDebugLogger::CallSite where)
 {
-    logger_.log(IslandDebugLogger::Category::Collapse, message);
+    logger_.log(IslandDebugLogger::Category::Collapse, message, where);
 }
 
 } // namespace quillmere

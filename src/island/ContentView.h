@@ -1,6 +1,7 @@
 #pragma once
 
 #include "island/HUDContent.h"
+#include "island/IslandDebugLogger.h"
 #include "island/IslandPages.h"
 #include "platform/RunLoop.h"
 
@@ -16,7 +17,6 @@ class FloatingPanel;
 class Haptics;
 class HUDManager;
 class IdleWings;
-class IslandDebugLogger;
 class NotificationCenter;
 class SettingsStore;
 
@@ -64,6 +64,9 @@ public:
 
     IslandPages &pages() { return pages_; }
     const IslandPages &pages() const { return pages_; }
+
+    /// One that runs or waits to go on has its page, whatever the settings say.
+    void setTimerUnderWay(bool isUnderWay);
 
     void pointerEntered();
     void pointerExited();
@@ -119,7 +122,8 @@ private:
     void setState(bool isExpanded, bool userExpanded);
     void updateSize();
     void playHaptic();
-    void logCollapse(const QString &message);
+    void logCollapse(const QString &message,
+                     IslandDebugLogger::CallSite where = IslandDebugLogger::CallSite::here());
 
     RunLoop &runLoop_;
     SettingsStore &settings_;
@@ -139,6 +143,7 @@ private:
     bool hasKeyboard_ = false;
     bool isKey_ = false; ///< what is typed comes here, for either of these
     bool openedByDrag_ = false;
+    bool timerIsUnderWay_ = false;
     std::optional<IslandPage> pageBeforeDrag_;
     std::optional<HUDContent> shownHUD_;
     std::optional<HUDContent> lastHUD_;

@@ -23,6 +23,16 @@ std::optional<WingTimerContent> wingTimer(const PomodoroManager &pomodoro,
     return std::nullopt;
 }
 
+namespace {
+
+bool isPaused(const CountdownTimerManager &countdown)
+{
+    const bool isOver = countdown.mode() == TimerMode::Countdown && countdown.remaining() <= 0;
+    return !countdown.isRunning() && countdown.elapsedSeconds() > 0 && !isOver;
+}
+
+} // namespace
+
 WingTimer::WingTimer(const PomodoroManager &pomodoro, const CountdownTimerManager &countdown)
     : pomodoro_(pomodoro)
     , countdown_(countdown)
@@ -39,6 +49,9 @@ void WingTimer::update()
     auto content = wingTimer(pomodoro_, countdown_);
     if (std::exchange(content_, content) != content)
         Q_EMIT contentChanged();
+    const bool isUnderWay = content_ || isPaused(countdown_);
+    if (std::exchange(isUnderWay_, isUnderWay) != isUnderWay)
+        Q_EMIT underWayChanged();
 }
 
 } // namespace quillmere

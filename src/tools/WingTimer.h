@@ -23,7 +23,8 @@ struct WingTimerContent {
 std::optional<WingTimerContent> wingTimer(const PomodoroManager &pomodoro,
                                           const CountdownTimerManager &countdown);
 
-/// Follows both timers and tells when there is another text to show, once a second at most.
+/// Follows both timers and tells when there is another text to show, once a second at most, and
+/// whether there is one to go back to.
 class WingTimer : public QObject
 {
     Q_OBJECT
@@ -33,8 +34,12 @@ public:
 
     const std::optional<WingTimerContent> &content() const { return content_; }
 
+    /// One runs, or was paused before its end.
+    bool isUnderWay() const { return isUnderWay_; }
+
 Q_SIGNALS:
     void contentChanged();
+    void underWayChanged();
 
 private:
     void update();
@@ -42,6 +47,7 @@ private:
     const PomodoroManager &pomodoro_;
     const CountdownTimerManager &countdown_;
     std::optional<WingTimerContent> content_;
+    bool isUnderWay_ = false;
 };
 
 } // namespace quillmere

@@ -51,6 +51,8 @@ struct IslandFixture {
             const auto &content = timers.wing().content();
             wings.setTimerText(content ? content->text : QString());
         });
+        QObject::connect(&timers.wing(), &WingTimer::underWayChanged, &wings,
+                         [this] { content.setTimerUnderWay(timers.wing().isUnderWay()); });
         weather.isOnShow = [this] { return content.shows(IslandPage::Weather); };
         panel.displaysDidChange();
         runLoop.advance(std::chrono::seconds(4));

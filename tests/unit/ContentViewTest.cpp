@@ -234,8 +234,7 @@ TEST_F(ContentViewTest, FileDragOpensTheTrayAndGoesBack)
 
 TEST_F(ContentViewTest, PagesRecordWhereTheyCameFrom)
 {
-    auto &pages = content.pages();
-    pages.offer({IslandPage::Main});
+    IslandPages pages(runLoop);
     pages.step(1);
     EXPECT_EQ(pages.islandPage(), IslandPage::Main); // the only one
     pages.offer({IslandPage::Main, IslandPage::Weather, IslandPage::Timer});
@@ -256,10 +255,45 @@ TEST_F(ContentViewTest, PagesRecordWhereTheyCameFrom)
     EXPECT_EQ(pages.islandPage(), IslandPage::Main);
 }
 
+TEST_F(ContentViewTest, ATimerHasItsPageUntilNobodyLooksAtIt)
+{
+    const auto isOffered = [this] { return content.pages().offered().contains(IslandPage::Timer); };
+    EXPECT_FALSE(isOffered()) << "both timers are off";
+    content.setTimerUnderWay(true); // by a shortcut
+    EXPECT_TRUE(isOffered());
+    settings.autoCollapseDelay.set(60);
+    tap();
+    content.pages().show(IslandPage::Timer);
+    content.setTimerUnderWay(false);
+    EXPECT_EQ(content.pages().islandPage(), IslandPage::Timer) << "it can be started again here";
+    content.pages().show(IslandPage::Weather);
+    EXPECT_FALSE(isOffered());
+    content.setTimerUnderWay(true);
+    content.pages().show(IslandPage::Timer);
+    content.setTimerUnderWay(false);
+    tap();
+    EXPECT_FALSE(isOffered());
+    EXPECT_EQ(content.pages().islandPage(), IslandPage::Main);
+}
+
+TEST_F(ContentViewTest, AHUDThatComesAfterThePointerHasLeftKeepsItsOwnTime)
+{
+    tap();
+    content.pointerEntered();
+    content.pointerExited();
+    runLoop.advance(200ms);
+    message(8);
+    runLoop.advance(7999ms);
+    EXPECT_EQ(shown(), "hud");
+    runLoop.advance(1ms);
+    EXPECT_EQ(shown(), "collapsed");
+}
+
 TEST_F(ContentViewTest, OneSwipeIsOneStepHoweverLongItsInertia)
 {
-    content.pages().offer(
-        {IslandPage::Main, IslandPage::Weather, IslandPage::System, IslandPage::Timer});
+    settings.enableCountdownTimer.set(true);
+    ASSERT_EQ(content.pages().offered(), (QList{IslandPage::Main, IslandPage::Weather,
+                                                IslandPage::System, IslandPage::Timer}));
     const auto flick = [this](double x, double y) {
         for (int i = 0; i < 40; ++i, runLoop.advance(16ms))
             swipe(x, y);

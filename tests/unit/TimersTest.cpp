@@ -237,6 +237,15 @@ TEST_F(TimersTest, TheWingShowsWhatEndsNextOnceASecond)
     EXPECT_EQ(shown(), pomodoroText(pomodoro.timeRemaining()).prepend(u"timer "_s));
     pomodoro.stop();
     EXPECT_EQ(shown(), QString());
+    EXPECT_FALSE(wing.isUnderWay()) << "one is over, one was stopped";
+    countdown.setPreset(1);
+    countdown.start();
+    runLoop.advance(1s);
+    countdown.pause();
+    EXPECT_EQ(shown(), QString());
+    EXPECT_TRUE(wing.isUnderWay());
+    countdown.reset();
+    EXPECT_FALSE(wing.isUnderWay());
     EXPECT_EQ(fields.value(u"state"_s), u"working"_s);
     EXPECT_EQ(fields.value(u"mode"_s), u"countdown"_s);
     EXPECT_EQ(fields.value(u"timeRemaining"_s), 1490);
