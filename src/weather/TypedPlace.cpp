@@ -85,6 +85,9 @@ void TypedPlace::use(const std::optional<Location> &place)
         return;
     place_ = place;
     stopUpdatingLocation();
+    // Nobody has asked while a place was typed; to forget it is to want the machine's.
+    if (!place_ && machine_.authorizationStatus() == AuthorizationStatus::NotDetermined)
+        machine_.requestAlwaysAuthorization();
     runLoop_.post(owner_, [this] {
         if (delegate_ != nullptr)
             delegate_->locationManagerDidChangeAuthorization();

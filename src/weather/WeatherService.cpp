@@ -87,8 +87,14 @@ void WeatherService::startUpdating()
 
 void WeatherService::stop()
 {
+    prompt_.cancel();
+    endUpdating();
+}
+
+void WeatherService::endUpdating()
+{
     isRunning_ = false;
-    for (Task *task : {&timer_, &prompt_, &naming_, &request_, &reachability_})
+    for (Task *task : {&timer_, &naming_, &request_, &reachability_})
         task->cancel();
     weatherKit_.cancel();
     tools_.locationManager.stopUpdatingLocation();
@@ -99,8 +105,11 @@ void WeatherService::locationManagerDidChangeAuthorization()
     const auto status = tools_.locationManager.authorizationStatus();
     const bool hasChanged = std::exchange(currentAuthStatus_, status) != status;
     qInfo("[WeatherService] Authorization changed: %d", static_cast<int>(status));
+    lastLocation_.reset(); // where nobody lets us look any more, or a place that was forgotten
     if (isAuthorized(status))
         startUpdating();
+    else
+        endUpdating();
     if (auto completion = std::exchange(pendingLocationCompletion_, nullptr)) {
         tools_.runLoop.post(owner_, [completion = std::move(completion), status] {
             completion(isAuthorized(status));

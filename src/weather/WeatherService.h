@@ -83,6 +83,7 @@ private:
 
     void askForPermission();
     void startUpdating();
+    void endUpdating();
     void refreshIfOverdue();
     void fetchWeather(const Location &location);
     void fetchNamed(const Location &location);

@@ -239,6 +239,35 @@ TEST_F(WeatherServiceTest, ATypedPlaceIsWhereWeAre)
     EXPECT_EQ(after.authorizationStatus(), AuthorizationStatus::Denied) << "not a place";
 }
 
+TEST_F(WeatherServiceTest, AForgottenPlaceIsNotAskedForAgain)
+{
+    const Location tokyo{35.69, 139.69, u"Tokyo"_s, "Asia/Tokyo"};
+    const auto type = [&] {
+        place.setPlace(tokyo);
+        runLoop.advance(1s);
+        respond(200, rain);
+        ASSERT_EQ(service.cachedWeather()->locationName, u"Tokyo"_s);
+        machine.prompts = machine.starts = 0;
+        http.requests.clear();
+    };
+    for (const auto status : {AuthorizationStatus::NotDetermined, AuthorizationStatus::Denied,
+                              AuthorizationStatus::AuthorizedAlways}) {
+        machine.status = AuthorizationStatus::NotDetermined;
+        type();
+        machine.status = status;
+        place.setPlace({});
+        runLoop.advance(1h);
+        network.comeBack();
+        EXPECT_EQ(http.requests.size(), 0U) << int(status);
+        EXPECT_EQ(machine.prompts, status == AuthorizationStatus::NotDetermined) << int(status);
+        EXPECT_EQ(machine.starts > 0, status == AuthorizationStatus::AuthorizedAlways);
+    }
+    machine.find({london});
+    runLoop.advance(1s);
+    respond(200, rain);
+    EXPECT_EQ(service.cachedWeather()->locationName, u"London"_s);
+}
+
 TEST(WeatherAnnouncerTest, DistinctWeatherIsAnnouncedOnce)
 {
     const QTemporaryDir folder;
