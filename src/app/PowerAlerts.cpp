@@ -12,6 +12,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QUuid>
 
 #include <algorithm>
 
@@ -26,6 +27,12 @@ struct Words {
 double fraction(int percent)
 {
     return std::clamp(percent, 0, 100) / 100.0;
+}
+
+/// Of a notification that takes no other's place.
+QString fresh(QLatin1StringView kind)
+{
+    return kind + u'-' + QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
 QString remainingText(int percent)
@@ -114,11 +121,12 @@ void PowerAlerts::batteryIsLow(int level)
     if (settings_.playSoundOnLowBattery.get())
         platform_.systemSound.play(Sound::LowBattery);
     if (settings_.notifyOnLowPowerMode.get())
-        platform_.userNotifications.deliver({.identifier = QStringLiteral("battery"),
+        platform_.userNotifications.deliver({.identifier = fresh(QLatin1StringView("battery")),
                                              .title = Words::tr("Low Battery"),
                                              .body = remainingText(level),
                                              .symbol = QString(symbols::battery25),
-                                             .isUrgent = true});
+                                             .isUrgent = true,
+                                             .playsSound = !settings_.playSoundOnLowBattery.get()});
 }
 
 void PowerAlerts::deviceIsLow(const QString &name, int level)
@@ -142,10 +150,11 @@ void PowerAlerts::lowPowerModeChanged(bool isOn)
     const QString body = isOn ? Words::tr("The machine saves power and may be slower.")
                               : Words::tr("The machine runs at its usual speed again.");
     platform_.userNotifications.deliver(
-        {.identifier = QStringLiteral("lowPowerMode"),
+        {.identifier = fresh(QLatin1StringView("lowPowerMode")),
          .title = isOn ? Words::tr("Low Power Mode On") : Words::tr("Low Power Mode Off"),
          .body = body,
-         .symbol = QString(isOn ? symbols::battery25 : symbols::battery100)});
+         .symbol = QString(isOn ? symbols::battery25 : symbols::battery100),
+         .playsSound = true});
 }
 
 } // namespace quillmere

@@ -37,6 +37,7 @@ void SystemLoad::follow(bool wanted)
     if (!wanted) {
         systemMonitor_.reset();
         history_.clear();
+        hudManager_.setSystemStats(std::nullopt);
         Q_EMIT historyChanged();
         return;
     }

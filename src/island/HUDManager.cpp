@@ -130,7 +130,7 @@ void HUDManager::setNetworkSpeed(const NetworkSpeed &speed)
     onMain([=, this] { publish(networkSpeed_, speed, &HUDManager::networkSpeedChanged); });
 }
 
-void HUDManager::setSystemStats(const SystemStats &stats)
+void HUDManager::setSystemStats(const std::optional<SystemStats> &stats)
 {
     onMain([=, this] { publish(systemStats_, stats, &HUDManager::systemStatsChanged); });
 }

@@ -61,7 +61,7 @@ public:
     void freezePlayhead(HUDContent record);
 
     void setNetworkSpeed(const NetworkSpeed &speed);
-    void setSystemStats(const SystemStats &stats);
+    void setSystemStats(const std::optional<SystemStats> &stats);
 
     /// Step currentQueueIndex through hudQueue, wrapping at both ends.
     void showNextActivity();

@@ -277,7 +277,8 @@ TEST_F(AppDelegateTest, ChargersAndLowPowerModeHaveTheirWords)
     lowPowerMode.set(false);
     ASSERT_EQ(alerts.shown.size(), 2U);
     EXPECT_EQ(alerts.shown[0].title, QStringLiteral("Low Power Mode On"));
-    EXPECT_EQ(alerts.shown[1].identifier, alerts.shown[0].identifier);
+    EXPECT_TRUE(alerts.shown[1].playsSound);
+    EXPECT_NE(alerts.shown[1].identifier, alerts.shown[0].identifier);
 }
 
 TEST_F(AppDelegateTest, TheLoadIsSampledWhileTheSettingIsOn)
@@ -294,7 +295,7 @@ TEST_F(AppDelegateTest, TheLoadIsSampledWhileTheSettingIsOn)
     app->settings().showSystemMonitor.set(false);
     host.used = 1ULL << 32;
     runLoop.advance(10s);
-    EXPECT_EQ(published().value(QStringLiteral("memoryUsage")), 50.0);
+    EXPECT_TRUE(published().isEmpty()) << "what was is not what is";
     app->settings().showSystemMonitor.set(true);
     runLoop.advance(4s);
     EXPECT_EQ(published().value(QStringLiteral("memoryUsage")), 25.0);
