@@ -1,10 +1,11 @@
 // Prints the brightness of the first external display that tells it over DDC/CI: a line from
 // "brightness 0.0000" to "brightness 1.0000", and another whenever it has changed. Other lines are
-// the library's own talk, which begins before main(). Ends when its standard input does, when no
-// display answers, or when the one it found has been silent for a minute.
+// the library's own talk, which begins before main(). Ends when its standard input does, or when no
+// display answers at the start.
 
 #include <ddcutil_c_api.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -14,10 +15,11 @@
 namespace {
 
 constexpr DDCA_Vcp_Feature_Code luminance = 0x10;
-constexpr int interval = 5000;     // milliseconds
-constexpr int silencesAtMost = 12; // a display that sleeps does not answer
+constexpr int interval = 5000;       // milliseconds
+constexpr int sleepInterval = 30000; // a display that sleeps does not answer, and wakes unannounced
+constexpr int silencesOfSleep = 12;
 
-enum ExitStatus { ended = 0, cannotWrite = 1, noDisplay = 3, displayGone = 4 };
+enum ExitStatus { ended = 0, cannotWrite = 1, noDisplay = 3 };
 
 int word(unsigned high, unsigned low)
 {
@@ -46,10 +48,10 @@ bool print(double level)
 }
 
 /// False when the input ended meanwhile.
-bool waitForInterval()
+bool waitFor(int milliseconds)
 {
     pollfd input{STDIN_FILENO, POLLIN, 0};
-    return ::poll(&input, 1, interval) == 0;
+    return ::poll(&input, 1, milliseconds) == 0;
 }
 
 int follow(DDCA_Display_Ref display, double level)
@@ -57,11 +59,9 @@ int follow(DDCA_Display_Ref display, double level)
     if (!print(level))
         return cannotWrite;
     int silences = 0;
-    while (waitForInterval()) {
+    while (waitFor(silences < silencesOfSleep ? interval : sleepInterval)) {
         const auto current = brightness(display);
-        silences = current ? 0 : silences + 1;
-        if (silences >= silencesAtMost)
-            return displayGone;
+        silences = current ? 0 : std::min(silences + 1, silencesOfSleep);
         if (!current || *current == level)
             continue;
         level = *current;

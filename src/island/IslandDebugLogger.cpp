@@ -145,7 +145,6 @@ void IslandDebugLogger::append(Category category, QString &&message, CallSite wh
 
 void IslandDebugLogger::setUp()
 {
-    makePrivatePath(logDir_);
     openLogFile();
 }
 
@@ -153,6 +152,7 @@ void IslandDebugLogger::openLogFile()
 {
     fileHandle_.reset();
     fileSize_ = 0;
+    makePrivatePath(logDir_);
     const QFileInfo info(logFile_);
     if (info.exists() && !info.isFile())
         return; // opening a pipe could wait for ever
@@ -183,14 +183,13 @@ void IslandDebugLogger::writePending()
 
 void IslandDebugLogger::checkFile()
 {
-    if (!fileHandle_)
-        return;
     const QFileInfo info(logFile_);
-    if (info.exists()) {
+    if (fileHandle_ && info.exists()) {
         fileSize_ = info.size();
         return;
     }
-    // Deleted by somebody: going on in the nameless file would fill the disk unseen.
+    // Deleted by somebody, perhaps with its folder: going on in the nameless file would fill the
+    // disk unseen.
     openLogFile();
     sessionStartWritten_ = false;
 }

@@ -18,7 +18,7 @@ public:
     std::optional<BatteryStatus> status() const;
 
 private:
-    bool onBattery_ = false;
+    bool onBattery_ = true;
     bool isPresent_ = false;
     unsigned type_ = 0;
     unsigned state_ = 0;

@@ -25,7 +25,7 @@ TrayItem::TrayItem(RunLoop &runLoop, const QString &menuPath)
     setProperty("Id", QStringLiteral("quillmere"));
     setProperty("Status", QStringLiteral("Active"));
     setProperty("WindowId", 0);
-    setProperty("ItemIsMenu", false);
+    setProperty("ItemIsMenu", true); // a press has nothing to do that its menu does not offer
     setProperty("Menu", QVariant::fromValue(QDBusObjectPath(menuPath)));
     new StatusNotifierItemAdaptor(this);
 }
