@@ -79,7 +79,7 @@ public:
     /// While it is key, what is typed goes to it; after that, to whom it went before.
     virtual void setKey(bool key) = 0;
 
-    /// True while another program's window fills the panel's screen.
+    /// True while another program's window fills the panel's screen and is the active one.
     virtual bool isCoveredByFullscreen() const = 0;
     virtual Task onFullscreenChanged(std::function<void()> listener) = 0;
 };
