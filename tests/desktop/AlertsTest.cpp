@@ -1,13 +1,11 @@
 #include "platform/linux/alerts/CanberraSound.h"
 #include "platform/linux/alerts/DesktopNotifications.h"
-#include "platform/linux/alerts/NotificationInhibition.h"
 
 #include "platform/Symbols.h"
 #include "platform/linux/core/QtRunLoop.h"
 #include "support/LogCapture.h"
 #include "support/MockService.h"
 #include "support/PulseServer.h"
-#include "support/XServer.h"
 
 namespace quillmere {
 namespace {
@@ -79,53 +77,6 @@ TEST_F(AlertsTest, NotificationsReachTheServerAsPlainTextAndReplaceTheirLike)
         EXPECT_TRUE(got().at(45).startsWith(QStringLiteral("84")));
         server.stop();
     }
-}
-
-TEST_F(AlertsTest, ThatTheServerHoldsBackIsSeen)
-{
-    const auto client = bus.connect();
-    NotificationInhibition inhibition(bus.connect());
-    QList<bool> told;
-    const Task listener = inhibition.onChanged([&](bool isOn) { told.append(isOn); });
-    const auto becomes = [&](std::optional<bool> isOn) {
-        return eventually([&] { return inhibition.isOn() == isOn; });
-    };
-    {
-        const XServer display;
-        const auto address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-        qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
-        ChildProgram dunst(QStringLiteral("dunst"),
-                           {QStringLiteral("-config"), QStringLiteral("/dev/null")});
-        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-        ASSERT_TRUE(becomes(false));
-        for (const bool paused : {true, false, true}) {
-            auto set = QDBusMessage::createMethodCall(
-                serverName, serverPath, QStringLiteral("org.freedesktop.DBus.Properties"),
-                QStringLiteral("Set"));
-            set << QStringLiteral("org.dunstproject.cmd0") << QStringLiteral("paused")
-                << QVariant::fromValue(QDBusVariant(paused));
-            client.send(set);
-            EXPECT_TRUE(becomes(paused));
-        }
-        EXPECT_EQ(told, (QList<bool>{true, false, true}));
-    }
-    EXPECT_TRUE(becomes(std::nullopt)) << "it is gone, and with it what it told";
-    LogCapture log;
-    server.start(QStringLiteral("notification_daemon"));
-    server.call(
-        serverPath, mock, "AddProperty",
-        {serverName, QStringLiteral("Inhibited"), QVariant::fromValue(QDBusVariant(false))});
-    const auto tell = [&](const QVariant &value) {
-        server.update(serverPath, serverName, {{QStringLiteral("Inhibited"), value}});
-    };
-    tell(true); // what is found at first is no change
-    EXPECT_TRUE(becomes(true));
-    tell(QStringLiteral("yes"));
-    EXPECT_TRUE(eventually([&] { return log.take().size() == 1; }));
-    EXPECT_EQ(inhibition.isOn(), true);
-    tell(false);
-    EXPECT_TRUE(becomes(false));
-    EXPECT_EQ(told, (QList<bool>{true, false, true, false}));
 }
 
 TEST(SoundTest, PlaysTheThemesSoundAlsoAfterTheServerRestarted)

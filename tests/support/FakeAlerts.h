@@ -39,6 +39,14 @@ struct FakeMode : Mode {
     Listeners<bool> listeners;
 };
 using FakeLowPowerMode = FakeMode<LowPowerMode>;
-using FakeFocusState = FakeMode<FocusState>;
+
+struct FakeFocusState : FakeMode<FocusState> {
+    QString teller() const override { return mode ? QStringLiteral("Fake") : QString(); }
+    Task onTellerChanged(std::function<void()> listener) override
+    {
+        return tellers.add(std::move(listener));
+    }
+    Listeners<> tellers;
+};
 
 } // namespace quillmere

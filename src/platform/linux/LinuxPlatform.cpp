@@ -63,7 +63,7 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
     , messageSocketServer_(runLoop)
     , powerSources_(runLoop)
     , lowPowerMode_(runLoop)
-    , focusState_(sessionBus(bus))
+    , focusState_(runLoop, sessionBus(bus), qEnvironmentVariable("XDG_CURRENT_DESKTOP"))
     , userNotifications_(sessionBus(bus))
     , systemSound_(runLoop)
     , locationManager_(runLoop)

@@ -5,7 +5,6 @@
 #include "platform/linux/WindowSystem.h"
 #include "platform/linux/alerts/CanberraSound.h"
 #include "platform/linux/alerts/DesktopNotifications.h"
-#include "platform/linux/alerts/NotificationInhibition.h"
 #include "platform/linux/appearance/DesktopAppearance.h"
 #include "platform/linux/appearance/FeedbackdHaptics.h"
 #include "platform/linux/audio/PulseAudioHardware.h"
@@ -19,6 +18,7 @@
 #include "platform/linux/desktop/FolderCloudStore.h"
 #include "platform/linux/desktop/LinuxUserFiles.h"
 #include "platform/linux/display/LinuxDisplayBrightness.h"
+#include "platform/linux/focus/DesktopFocus.h"
 #include "platform/linux/keyring/SecretKeychain.h"
 #include "platform/linux/location/GeoClueLocationManager.h"
 #include "platform/linux/location/HelperGeocoder.h"
@@ -76,7 +76,7 @@ private:
     LinuxUserFiles userFiles_;
     UPowerSources powerSources_;
     PowerProfiles lowPowerMode_;
-    NotificationInhibition focusState_;
+    DesktopFocus focusState_;
     ProcStatistics hostStatistics_;
     DesktopNotifications userNotifications_;
     CanberraSound systemSound_;
