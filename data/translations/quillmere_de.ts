@@ -1868,16 +1868,16 @@
         <translation>Dieser Desktop</translation>
     </message>
     <message>
-        <source>It does not tell of Do Not Disturb; Plasma and dunst do. Until it does, this page has no effect.</source>
-        <translation>Er meldet „Nicht stören“ nicht; Plasma und dunst tun es. Bis dahin hat diese Seite keine Wirkung.</translation>
+        <source>It does not tell of Do Not Disturb. GNOME, Plasma, Xfce, Cinnamon, MATE, dunst, SwayNC and newer versions of mako do. Until it does, this page has no effect.</source>
+        <translation>Er meldet „Nicht stören“ nicht. GNOME, Plasma, Xfce, Cinnamon, MATE, dunst, SwayNC und neuere Versionen von mako tun es. Bis dahin hat diese Seite keine Wirkung.</translation>
     </message>
     <message>
-        <source>Do Not Disturb is on.</source>
-        <translation>„Nicht stören“ ist eingeschaltet.</translation>
+        <source>Do Not Disturb is on in %1.</source>
+        <translation>„Nicht stören“ ist in %1 eingeschaltet.</translation>
     </message>
     <message>
-        <source>Do Not Disturb is off.</source>
-        <translation>„Nicht stören“ ist ausgeschaltet.</translation>
+        <source>Do Not Disturb is off in %1.</source>
+        <translation>„Nicht stören“ ist in %1 ausgeschaltet.</translation>
     </message>
 </context>
 <context>

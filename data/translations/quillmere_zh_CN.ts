@@ -1867,16 +1867,16 @@
         <translation>此桌面</translation>
     </message>
     <message>
-        <source>It does not tell of Do Not Disturb; Plasma and dunst do. Until it does, this page has no effect.</source>
-        <translation>它不提供勿扰状态；Plasma 和 dunst 提供。在此之前，本页设置不起作用。</translation>
+        <source>It does not tell of Do Not Disturb. GNOME, Plasma, Xfce, Cinnamon, MATE, dunst, SwayNC and newer versions of mako do. Until it does, this page has no effect.</source>
+        <translation>它不提供勿扰状态。GNOME、Plasma、Xfce、Cinnamon、MATE、dunst、SwayNC 和较新版本的 mako 提供。在此之前，本页设置不起作用。</translation>
     </message>
     <message>
-        <source>Do Not Disturb is on.</source>
-        <translation>勿扰模式已开启。</translation>
+        <source>Do Not Disturb is on in %1.</source>
+        <translation>%1 的勿扰模式已开启。</translation>
     </message>
     <message>
-        <source>Do Not Disturb is off.</source>
-        <translation>勿扰模式已关闭。</translation>
+        <source>Do Not Disturb is off in %1.</source>
+        <translation>%1 的勿扰模式已关闭。</translation>
     </message>
 </context>
 <context>

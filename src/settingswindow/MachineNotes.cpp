@@ -86,19 +86,25 @@ void PageNotes::connectivity()
 void PageNotes::focus()
 {
     SettingRow *found = row("focusState", QT_TRANSLATE_NOOP("Settings", "This desktop"));
-    const auto show = [found](std::optional<bool> isOn) {
-        found->setWarning(isOn ? QString()
-                               : translated(QT_TRANSLATE_NOOP(
-                                     "Settings", "It does not tell of Do Not Disturb; Plasma and "
-                                                 "dunst do. Until it does, this page has no "
-                                                 "effect.")));
+    FocusState &focus = services_.platform.focusState;
+    const auto show = [found, &focus] {
+        const auto isOn = focus.isOn();
+        found->setWarning(
+            isOn ? QString()
+                 : translated(QT_TRANSLATE_NOOP(
+                       "Settings", "It does not tell of Do Not Disturb. GNOME, Plasma, Xfce, "
+                                   "Cinnamon, MATE, dunst, SwayNC and newer versions of mako do. "
+                                   "Until it does, this page has no effect.")));
         found->setExplanation(
-            !isOn   ? QString()
-            : *isOn ? translated(QT_TRANSLATE_NOOP("Settings", "Do Not Disturb is on."))
-                    : translated(QT_TRANSLATE_NOOP("Settings", "Do Not Disturb is off.")));
+            isOn ? (*isOn
+                        ? translated(QT_TRANSLATE_NOOP("Settings", "Do Not Disturb is on in %1."))
+                        : translated(QT_TRANSLATE_NOOP("Settings", "Do Not Disturb is off in %1.")))
+                       .arg(focus.teller())
+                 : QString());
     };
-    show(services_.platform.focusState.isOn());
-    tasks_.push_back(services_.platform.focusState.onChanged(show));
+    show();
+    tasks_.push_back(focus.onChanged([show](bool) { show(); }));
+    tasks_.push_back(focus.onTellerChanged(show));
     group(QT_TRANSLATE_NOOP("Settings", "Found"), {found});
 }
 
