@@ -21,6 +21,7 @@ PICTURES = {
     "muted": ("muted", HUD),
     "brightness-60": ("brightness", HUD),
     "charging": ("charging", HUD),
+    "on-battery": ("on-battery", HUD),
     "low-battery": ("low-battery", HUD),
     "headset": ("headset", HUD),
     "file-added": ("file-added", MESSAGE),
@@ -34,13 +35,17 @@ PICTURES = {
     "weather-wings": ("weather-wings", WINGS),
     "media-wings": ("media-wings", WINGS),
     "timer-wings": ("timer-wings", WINGS),
+    "dashboard": ("clock", PAGE),
     "dashboard-activity": ("activities", PAGE),
+    "dashboard-assistant": ("assistant-card", PAGE),
     "media": ("media", PAGE),
     "weather": ("weather", PAGE),
+    "weather-places": ("weather-places", PAGE),
+    "weather-without-a-place": ("weather-without-a-place", PAGE),
     "system": ("system", PAGE),
     "timer-focus-running": ("timer-focus", PAGE),
-    "timer-countdown": ("timer-countdown", PAGE),
-    "timer-stopwatch": ("timer-stopwatch", PAGE),
+    "timer-countdown-running": ("timer-countdown", PAGE),
+    "timer-stopwatch-running": ("timer-stopwatch", PAGE),
     "tray-with-a-file": ("tray", PAGE),
     "outputs": ("outputs", PAGE),
 }
@@ -51,6 +56,9 @@ WHOLE = {
     "settings-now-playing-light-1x": "settings",
     "settings-sound-dark-1x": "settings-dark",
     "setup-welcome-light-1x": "setup",
+    "setup-sources-light-1x": "setup-sources",
+    "setup-needs-light-1x": "setup-needs",
+    "setup-finish-light-1x": "setup-finish",
 }
 
 
