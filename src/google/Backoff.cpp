@@ -1,5 +1,7 @@
 #include "google/Backoff.h"
 
+#include "google/HttpDate.h"
+
 #include <algorithm>
 
 namespace quillmere {
@@ -38,17 +40,14 @@ bool wantsPause(const HttpResponse &response)
 
 std::optional<Duration> retryAfter(const HttpHeaders &headers, const QDateTime &date)
 {
-    const auto header = std::ranges::find(headers, QByteArray("retry-after"),
-                                          &std::pair<QByteArray, QByteArray>::first);
-    if (header == headers.end())
+    const auto header = headerNamed(headers, "retry-after");
+    if (!header)
         return std::nullopt;
     bool isNumber = false;
-    const double number = header->second.trimmed().toDouble(&isNumber);
+    const double number = header->trimmed().toDouble(&isNumber);
     if (isNumber)
         return seconds(number);
-    QString text = QString::fromLatin1(header->second);
-    text.replace(QStringLiteral("GMT"), QStringLiteral("+0000"));
-    const QDateTime end = QDateTime::fromString(text, Qt::RFC2822Date);
+    const QDateTime end = httpDate(*header);
     if (!end.isValid())
         return std::nullopt;
     return seconds(static_cast<double>(date.msecsTo(end)) / 1000);

@@ -50,7 +50,12 @@ QStringList messageIDs(const QJsonObject &answer)
 GmailMessage gmailMessage(const QJsonObject &answer)
 {
     const QJsonArray headers = answer["payload"_L1]["headers"_L1].toArray();
-    return {header(headers, "From"_L1), header(headers, "Subject"_L1)};
+    GmailMessage message{header(headers, "From"_L1), header(headers, "Subject"_L1)};
+    bool isNumber = false;
+    const qint64 date = answer["internalDate"_L1].toString().toLongLong(&isNumber);
+    if (isNumber)
+        message.internalDate = date;
+    return message;
 }
 
 } // namespace quillmere

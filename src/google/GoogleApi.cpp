@@ -2,6 +2,7 @@
 
 #include "google/AuthRequest.h"
 #include "google/GoogleAuthManager.h"
+#include "google/HttpDate.h"
 
 #include <QDebug>
 #include <QJsonDocument>
@@ -80,6 +81,9 @@ void GoogleApi::take(const HttpResult &result)
         return finish(std::nullopt);
     }
     isOffline_ = false;
+    answeredAt_ = httpDate(headerNamed(result->headers, "date").value_or(QByteArray()));
+    if (!answeredAt_.isValid())
+        answeredAt_ = runLoop_.date();
     backoff_.answered(*result, runLoop_.now(), runLoop_.date());
     if (result->status == unauthorized)
         authManager_.forgetAccessToken(); // it may have been revoked before its time

@@ -32,6 +32,9 @@ public:
     void get(const QString &pathAndQuery, Done done);
     void cancel();
 
+    /// When the last answer was given, by the service's own clock, or by ours if it does not tell.
+    QDateTime answeredAt() const { return answeredAt_; }
+
 private:
     void send(const QString &pathAndQuery, const QString &accessToken);
     void take(const HttpResult &result);
@@ -45,6 +48,7 @@ private:
     const QLatin1StringView name_;
     Backoff backoff_;
     bool isOffline_ = false;
+    QDateTime answeredAt_;
     Done done_;
     Task token_;
     Task request_;

@@ -10,6 +10,9 @@ namespace {
 
 constexpr double secondsPerMinute = 60;
 
+/// What Google has taken in is found by a search only a moment later: of that age it can be news.
+constexpr std::chrono::milliseconds searchDelay = std::chrono::minutes(5);
+
 } // namespace
 
 GoogleServicesMonitor::GoogleServicesMonitor(RunLoop &runLoop, SettingsStore &settings,
@@ -51,8 +54,13 @@ void GoogleServicesMonitor::pollGmail()
     });
 }
 
+/// Only the newest are listed. Once some of them are read, older ones take their places, which are
+/// no news for being listed the first time: their dates tell. Both dates are Google's, so that it
+/// does not matter what this machine takes for the time.
 void GoogleServicesMonitor::takeInbox(const QStringList &ids)
 {
+    if (!hasSeenInitialGmailState_)
+        oldestNews_ = gmail_.answeredAt().toMSecsSinceEpoch() - searchDelay.count();
     unannounced_.clear();
     for (const QString &id : ids) {
         if (seenMessageIDs_.insert(id) && hasSeenInitialGmailState_)
@@ -73,7 +81,7 @@ void GoogleServicesMonitor::announceMessages()
         if (!answer)
             return;
         const GmailMessage message = gmailMessage(*answer);
-        if (onNewGmailMessage)
+        if (onNewGmailMessage && message.internalDate.value_or(oldestNews_) >= oldestNews_)
             onNewGmailMessage(message.sender, message.subject);
         announceMessages();
     });

@@ -56,6 +56,7 @@ private:
     bool isPollingCalendar_ = false;
     SeenSet seenMessageIDs_;
     bool hasSeenInitialGmailState_ = false;
+    qint64 oldestNews_ = 0;   ///< by Google's clock, in ms since 1970
     QStringList unannounced_; ///< of the poll that runs, the oldest last
     SeenSet notifiedEventIDs_;
 };

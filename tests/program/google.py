@@ -7,6 +7,7 @@ import http.server
 import json
 import sys
 import threading
+import time
 import urllib.parse
 
 CLIENT_ID = "123456-abc.apps.googleusercontent.com"
@@ -43,6 +44,7 @@ class GoogleServers:
         self.expires_in = 3600
         self.refusal = None  # of the token endpoint: (status, bytes)
         self.messages, self.events = {}, []  # by id: (from, subject)
+        self.dates = {}  # by id, in ms since 1970; else when they are listed the first time
         self.today = []
         self.requests, self.faults = [], []
         self.challenge = self.verifier = None
@@ -159,11 +161,15 @@ class GoogleServers:
         self.expect("the bearer", request.headers["Authorization"], "Bearer " + self.access_token)
         if path == "/gmail/v1/users/me/messages":
             self.expect("the search", pairs, [("q", "in:inbox is:unread"), ("maxResults", "10")])
-            answer = {"messages": [{"id": id} for id in self.messages]} if self.messages else {}
+            for id in self.messages:
+                self.dates.setdefault(id, int(time.time() * 1000))
+            answer = {"messages": [{"id": id} for id in list(self.messages)[:10]]} if self.messages else {}
         elif path.startswith("/gmail/v1/users/me/messages/"):
             self.expect("the fields", query, "format=metadata&metadataHeaders=From&metadataHeaders=Subject")
-            names = zip(("From", "Subject"), self.messages[path.rpartition("/")[2]])
-            answer = {"payload": {"headers": [{"name": name, "value": value} for name, value in names]}}
+            id = path.rpartition("/")[2]
+            names = zip(("From", "Subject"), self.messages[id])
+            headers = [{"name": name, "value": value} for name, value in names]
+            answer = {"id": id, "internalDate": str(self.dates[id]), "payload": {"headers": headers}}
         elif path == "/calendar/v3/calendars/primary/events" and "maxAttendees" in dict(pairs):
             begin, end = (self.moment(value) for _, value in pairs[:2])
             self.expect("the day", [begin.astimezone().strftime("%T"), end - begin], ["00:00:00", datetime.timedelta(1)])

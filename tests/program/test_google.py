@@ -3,6 +3,7 @@
 import json
 import signal
 import subprocess
+import time
 import unittest
 
 from case import BUILD, DesktopTest
@@ -79,6 +80,8 @@ class GoogleTest(DesktopTest):
         self.desktop.run("xdotool", "mousemove", "10", "700")
 
         self.servers.messages = {"new": ("Adá Lovelace <ada@example.org>", "Lünch?")} | self.servers.messages
+        self.servers.messages["unlisted"] = ("Grace <g@example.org>", "Of last year")
+        self.servers.dates["unlisted"] = int(time.time() - 3e7) * 1000
         self.servers.events[2] = event("later", "Lunch", 4)
         with self.island.watch() as watcher:
             # Both may come in the same moment; then only the later one is published as a HUD.

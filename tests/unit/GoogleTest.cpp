@@ -278,13 +278,13 @@ struct GoogleServicesTest : GoogleTest {
         serve();
         return told;
     }
-    static HttpResult list(const QStringList &ids)
+    static HttpResult list(const QStringList &ids, const HttpHeaders &headers = {})
     {
         QByteArray entries;
         for (const QString &id : ids)
             entries +=
                 (entries.isEmpty() ? "" : ",") + QByteArray(R"({"id":")") + id.toLatin1() + R"("})";
-        return answer(200, R"({"messages":[)" + entries + "]}");
+        return answer(200, R"({"messages":[)" + entries + "]}", headers);
     }
 
     HttpResult inbox = list({u"a"_s});
@@ -314,6 +314,18 @@ TEST_F(GoogleServicesTest, AMessageIsAnnouncedOnceAndOldOnesNever)
     EXPECT_THAT(tick(), IsEmpty());
     settings.showGmailHUD.set(true);
     EXPECT_THAT(tick(), IsEmpty());
+}
+
+TEST_F(GoogleServicesTest, AnOlderMessageIsNoNewsForBeingListedAtLast)
+{
+    // This machine's clock is two hours ahead.
+    inbox = list({u"a"_s}, {{"date", "Fri, 01 May 2026 06:00:00 GMT"}});
+    EXPECT_THAT(tick(), IsEmpty());
+    for (const auto &[date, news] : {std::pair("1777614899999", 0), {"1777614900000", 1}}) {
+        inbox = list({QString::fromLatin1(date)});
+        message = answer(200, R"({"internalDate":")" + QByteArray(date) + R"("})");
+        EXPECT_EQ(tick().size(), news) << date;
+    }
 }
 
 TEST_F(GoogleServicesTest, EventsAreAnnouncedOneAPoll)
