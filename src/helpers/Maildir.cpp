@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <chrono>
 #include <filesystem>
 #include <sys/stat.h>
 #include <vector>
@@ -80,13 +81,22 @@ bool isMaildir(const std::string &path)
 
 std::int64_t arrivalOf(const std::string &path)
 {
+    using namespace std::chrono_literals;
+    using std::chrono::system_clock;
+
+    // Other names begin with digits too, and a time far ahead would make all that comes look old.
     constexpr std::int64_t second = 1'000'000;
     constexpr std::int64_t earliest = 100'000'000;
+    const std::int64_t latest = system_clock::to_time_t(system_clock::now() + 24h);
+    const auto isTime = [latest](std::int64_t number, std::int64_t unit) {
+        return number >= earliest * unit && number <= latest * unit;
+    };
     const std::string name = fs::path(path).filename();
     const std::int64_t time = leadingNumber(name);
-    if (time >= earliest * second)
+    if (isTime(time, second))
         return time;
-    if (time >= earliest) {
+    const auto digits = std::min(name.find_first_not_of("0123456789"), name.size());
+    if (isTime(time, 1) && name.substr(digits).starts_with('.')) {
         const auto fraction = name.find(".M");
         const bool isKnown = fraction != std::string::npos;
         return time * second +

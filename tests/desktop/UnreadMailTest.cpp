@@ -6,6 +6,7 @@
 #include "support/ManualRunLoop.h"
 #include "support/SettingsFixture.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -126,6 +127,35 @@ TEST_F(UnreadMailTest, InboxesOfEveryFormat)
             sources.append(QString::fromUtf8(source));
         EXPECT_EQ(unread(), QString::fromUtf8(expected)) << mail;
         EXPECT_EQ(ask({u"--source"_s}), sources.join(u'\n'));
+    }
+}
+
+TEST_F(UnreadMailTest, OnlyATimeThatCanBeIsReadFromAName)
+{
+    constexpr qint64 written = 1'600'000'000;
+    const qint64 now = QDateTime::currentSecsSinceEpoch();
+    const qint64 tooLate = now + 2LL * 86'400;
+    const std::pair<QString, qint64> cases[] = {
+        {u"1500000000.M1P2.host"_s, 1'500'000'000},
+        {u"1500000000000001.eml"_s, 1'500'000'000},
+        {QString::number(now + 3600) + u".host"_s, now + 3600},
+        {QString::number(tooLate) + u".host"_s, written},
+        {QString::number(tooLate * 1'000'000), written},
+        {u"1500000000"_s, written},
+        {u"1500000000_1.host"_s, written},
+        {u"99999999.host"_s, written},
+        {u"99999999999999.host"_s, written},
+        {u"9223372036854775807.host"_s, written}};
+    QDir(home.path()).mkpath(u"Maildir/new"_s);
+    for (const auto &[name, arrival] : cases) {
+        const QString path = u"Maildir/cur/"_s + name;
+        write(path, "Subject: s\n\n");
+        QFile file(home.filePath(path));
+        EXPECT_TRUE(
+            file.open(QIODevice::Append) &&
+            file.setFileTime(QDateTime::fromSecsSinceEpoch(written), QFile::FileModificationTime));
+        EXPECT_EQ(ask().section(u'\n', 4), QString::number(arrival)) << name.toStdString();
+        file.remove();
     }
 }
 
