@@ -17,6 +17,9 @@ constexpr Duration shortestInterval = 30s;
 constexpr Duration tolerance = 5s;
 constexpr Duration scriptLimit = 5s; // what an answer may take on top
 
+/// By how much a mail server's clock may be ahead of ours.
+constexpr qint64 clockDifference = 3600; // seconds
+
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(EmailMonitor)
 };
@@ -97,11 +100,21 @@ void EmailMonitor::record(const UnreadMail &mail)
 {
     lastUnreadCount_ = mail.count;
     lastMessageID_ = mail.messageID;
-    if (mail.arrival && mail.arrival >= newestArrival_) { // anything is more than nothing
-        newestArrival_ = mail.arrival;
-        newestMessageID_ = mail.messageID;
-    }
+    if (mail.arrival)
+        recordArrival(*mail.arrival, mail.messageID);
     hasSeenInitialState_ = true;
+}
+
+/// One of the future is wrong, and counts as now: else all mail would look old until then.
+void EmailMonitor::recordArrival(qint64 arrival, const QString &messageID)
+{
+    const qint64 now = runLoop_.date().toSecsSinceEpoch();
+    if (arrival > now + clockDifference)
+        arrival = now;
+    if (arrival < newestArrival_) // nothing is less than anything
+        return;
+    newestArrival_ = arrival;
+    newestMessageID_ = messageID;
 }
 
 void EmailMonitor::announce(AnnouncedMessages::Source source, const QString &sender,

@@ -40,6 +40,7 @@ private:
     void take(const ScriptAnswer &answer);
     bool isNew(const UnreadMail &mail) const;
     void record(const UnreadMail &mail);
+    void recordArrival(qint64 arrival, const QString &messageID);
     void announce(AnnouncedMessages::Source source, const QString &sender, const QString &subject);
 
     RunLoop &runLoop_;

@@ -325,6 +325,17 @@ TEST_F(EmailMonitorTest, AnOlderMessageIsNotNewOnceTheNewestIsRead)
     EXPECT_EQ(after("1\nd\nNew\nAda\n2001").size(), 1);
 }
 
+TEST_F(EmailMonitorTest, AMessageOfTheFutureDoesNotMakeOthersOld)
+{
+    loop.setWallClock(std::chrono::system_clock::time_point(1'000'000s));
+    monitor.start();
+    answer("1\na\nIts clock is a bit ahead\nAda\n1003600");
+    EXPECT_THAT(after("1\nb\nOlder\nAda\n1003599"), IsEmpty());
+    EXPECT_EQ(after("2\nc\nMuch too late\nAda\n9000000").size(), 1);
+    loop.advance(1h);
+    EXPECT_EQ(after("3\nd\nRight\nAda\n1003650").size(), 1);
+}
+
 TEST_F(EmailMonitorTest, ASignalAndAPollAnnounceMailOnce)
 {
     monitor.start();
