@@ -39,6 +39,8 @@ void EmailMonitor::start()
 {
     if (isRunning())
         return;
+    hasSeenInitialState_ = false;
+    newestArrival_.reset();
     run();
     interval_ = std::max(seconds(settings_.emailPollInterval.get()), shortestInterval);
     timer_ = runLoop_.every(interval_, tolerance, [this] { run(); });

@@ -325,6 +325,21 @@ TEST_F(EmailMonitorTest, AnOlderMessageIsNotNewOnceTheNewestIsRead)
     EXPECT_EQ(after("1\nd\nNew\nAda\n2001").size(), 1);
 }
 
+TEST_F(EmailMonitorTest, WhatCameWhileItWasStoppedIsNoNews)
+{
+    monitor.start();
+    answer("1\na\nOld\nAda\n3000");
+    monitor.stop();
+    monitor.start();
+    answer("2\nb\nFrom another place\nAda\n2000");
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_EQ(after("3\nc\nNew\nAda\n2500").size(), 1);
+    monitor.stop();
+    monitor.start();
+    answer("4\nd\nWhile stopped\nAda\n4000");
+    EXPECT_THAT(told, IsEmpty());
+}
+
 TEST_F(EmailMonitorTest, AMessageOfTheFutureDoesNotMakeOthersOld)
 {
     loop.setWallClock(std::chrono::system_clock::time_point(1'000'000s));
