@@ -72,13 +72,22 @@ void NowPlayingPoller::stop()
 
 void NowPlayingPoller::mediaDidChange()
 {
-    if (debounce_)
-        return;
-    debounce_ = services_.runLoop.after(debounceDelay, [this] {
+    lastChange_ = services_.runLoop.now();
+    if (!debounce_)
+        awaitQuiet();
+}
+
+void NowPlayingPoller::awaitQuiet()
+{
+    const Instant end = lastChange_ + debounceDelay;
+    debounce_ = services_.runLoop.after(end - services_.runLoop.now(), [this, end] {
+        const bool isChangedSince = lastChange_ + debounceDelay > end;
         debounce_.reset();
         const Instant now = services_.runLoop.now();
         if (!lastPollTime_ || now - *lastPollTime_ > pollSpacing)
             poll();
+        else if (isChangedSince)
+            awaitQuiet();
     });
 }
 

@@ -51,6 +51,7 @@ public:
 
 private:
     void mediaDidChange();
+    void awaitQuiet();
     void answered(quint64 number, const std::optional<NowPlayingInfo> &info);
     void applyIdle(const std::optional<NowPlayingInfo> &info);
     void applyPlaying(const NowPlayingInfo &info);
@@ -66,6 +67,7 @@ private:
     BrowserFallback fallback_;
 
     Task firstPoll_;
+    Instant lastChange_{};
     std::optional<Task> debounce_; ///< present while a change waits to be asked about
     std::optional<Instant> lastShown_;
     quint64 pollNumber_ = 0;    ///< of the poll started last

@@ -62,6 +62,20 @@ TEST_F(NowPlayingPollerTest, AChangeIsAskedAboutOnceItSettles)
     }
 }
 
+TEST_F(NowPlayingPollerTest, AChangeIsNotLostBehindOneThatCameTooSoon)
+{
+    poller->start();
+    poller->poll();
+    advance(200ms);
+    change();
+    advance(100ms);
+    change();
+    advance(140ms);
+    EXPECT_EQ(media.queries, 1);
+    advance(20ms);
+    EXPECT_EQ(media.queries, 2);
+}
+
 TEST_F(NowPlayingPollerTest, AStormOfChangesIsABoundedNumberOfQueries)
 {
     poller->start();
