@@ -233,6 +233,21 @@ TEST_F(HostilePlayerTest, PicturesComeFromFilesTextsAndTheWeb)
     runLoop.advance(100ms);
     EXPECT_EQ(news, 1);
     EXPECT_TRUE(shows(QColor(Qt::yellow)));
+
+    become("art https://example.org/b.png");
+    askLate();
+    std::vector<std::size_t> requests;
+    for (const HttpResult &failure :
+         {HttpResult(tl::unexpected(HttpError{})), HttpResult(HttpResponse{.status = 503}),
+          HttpResult(HttpResponse{.status = 404})}) {
+        EXPECT_TRUE(http.answer(failure));
+        for (int second = 0; second < 5; ++second) {
+            ask();
+            requests.push_back(http.requests.size());
+            runLoop.advance(1s);
+        }
+    }
+    EXPECT_EQ(requests, (std::vector<std::size_t>{2, 2, 3, 3, 3, 3, 3, 3, 3, 4, 4, 4, 4, 4, 4}));
 }
 
 /// On real time, with real players.

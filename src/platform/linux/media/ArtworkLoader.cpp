@@ -2,6 +2,7 @@
 
 #include "platform/PictureDecoder.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quillmere {
@@ -9,6 +10,9 @@ namespace quillmere {
 namespace {
 
 constexpr int okStatus = 200;
+constexpr int serverError = 500;
+constexpr Duration shortestPause = std::chrono::seconds(2);
+constexpr Duration longestPause = std::chrono::minutes(10);
 
 HttpRequest requestFor(const QString &address)
 {
@@ -16,6 +20,15 @@ HttpRequest requestFor(const QString &address)
     request.url = QUrl(address, QUrl::StrictMode);
     request.responseLimit = largestPictureFile;
     return request;
+}
+
+/// Whether there may be a picture all the same.
+bool isPassing(const HttpResult &result)
+{
+    if (result)
+        return result->status >= serverError;
+    return result.error().kind == HttpError::Kind::Failed ||
+           result.error().kind == HttpError::Kind::TimedOut;
 }
 
 } // namespace
@@ -42,12 +55,21 @@ QImage ArtworkLoader::image(const ArtSource &source) const
 void ArtworkLoader::want(const ArtSource &source)
 {
     const bool isOther = !wanted_.isSame(source);
-    if (isOther)
+    if (isOther) {
         download_.cancel();
-    else if (download_ || (isBusy_ && source.kind != ArtSource::Kind::File))
+        pause_ = {};
+        pauseEnd_ = {};
+    } else if (download_ || (isBusy_ && source.kind != ArtSource::Kind::File)) {
         return;
+    }
     wanted_ = source;
     load();
+}
+
+void ArtworkLoader::retry()
+{
+    if (pause_ > Duration::zero() && !download_)
+        load();
 }
 
 void ArtworkLoader::load()
@@ -81,12 +103,24 @@ void ArtworkLoader::load()
 
 void ArtworkLoader::download()
 {
+    if (runLoop_.now() < pauseEnd_)
+        return;
     download_ = httpClient_.send(
-        requestFor(wanted_.location), [this, source = wanted_](const HttpResult &result) {
-            download_ = {};
-            const auto body = result && result->status == okStatus ? result->body : QByteArray();
-            decode(source, [body]() { return decoded(body); });
-        });
+        requestFor(wanted_.location),
+        [this, source = wanted_](const HttpResult &result) { downloaded(source, result); });
+}
+
+void ArtworkLoader::downloaded(const ArtSource &source, const HttpResult &result)
+{
+    download_ = {};
+    if (isPassing(result)) {
+        pause_ = std::clamp(2 * pause_, shortestPause, longestPause);
+        pauseEnd_ = runLoop_.now() + pause_;
+        return;
+    }
+    pause_ = {};
+    const auto body = result && result->status == okStatus ? result->body : QByteArray();
+    decode(source, [body]() { return decoded(body); });
 }
 
 template <class Work>

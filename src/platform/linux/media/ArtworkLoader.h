@@ -23,6 +23,9 @@ public:
     /// that could not be read or has changed is read then.
     void want(const ArtSource &source);
 
+    /// Call it with every poll: asks a server again that failed, if it is time for that.
+    void retry();
+
     /// The picture of this source; null while it isn't there.
     QImage image(const ArtSource &source) const;
 
@@ -36,6 +39,7 @@ private:
 
     void load();
     void download();
+    void downloaded(const ArtSource &source, const HttpResult &result);
     void take(const ArtSource &source, std::optional<Picture> picture);
 
     template <class Work>
@@ -50,6 +54,8 @@ private:
     bool isBusy_ = false;
     bool isAsked_ = false; // for something while busy
     Task download_;
+    Duration pause_{}; // after the failures so far, of which there may be none
+    Instant pauseEnd_{};
     Owner owner_;
 };
 

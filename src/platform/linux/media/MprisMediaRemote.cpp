@@ -66,6 +66,7 @@ void MprisMediaRemote::getNowPlayingInfo(const Owner &owner,
                                          std::function<void(const QVariantMap &)> done)
 {
     begin();
+    artwork_.retry();
     if (!elected_)
         return runLoop_.post(owner, [done = std::move(done)] { done({}); });
     elected_->askPosition(
