@@ -50,10 +50,7 @@ void BrowserFallback::keep()
             return;
         if (isPlaying)
             return services_.hudManager.showNowPlaying(*fallbackContent_);
-        HUDContent last = *fallbackContent_;
-        last.isPlaying = false;
-        end(QStringLiteral("browser audio stopped"));
-        services_.hudManager.showNowPlaying(std::move(last));
+        stop(QStringLiteral("browser audio stopped"));
     });
 }
 
@@ -97,7 +94,8 @@ void BrowserFallback::askTabs(const QString &browser)
 
 void BrowserFallback::tabsReceived(const QString &browser, const ScriptAnswer &answer)
 {
-    const auto videos = videoTabs(parseTabs(QString::fromUtf8(answer.output)));
+    const auto tabs = parseTabs(QString::fromUtf8(answer.output));
+    const auto videos = videoTabs(tabs);
     const QString shownUrl =
         fallbackContent_ ? fallbackContent_->contentURL.value_or(QString()) : QString();
     if (const auto tab = electVideoTab(videos, shownUrl))
@@ -105,6 +103,10 @@ void BrowserFallback::tabsReceived(const QString &browser, const ScriptAnswer &a
     services_.logger.log(category, [&browser] {
         return QString(u"FALLBACK no usable tab info from " + displayName(browser));
     });
+    const bool isShown = std::ranges::find(tabs, shownUrl, &BrowserTab::url) != tabs.end();
+    if (fallbackContent_ && browser == shownBrowser_ && answer.hasSucceeded && !tabs.empty() &&
+        !isShown)
+        stop(QStringLiteral("its tab is gone"));
 }
 
 void BrowserFallback::show(const VideoTab &tab, const QString &browser)
@@ -141,6 +143,15 @@ void BrowserFallback::electedItemPlays()
     abandonQuery();
     if (fallbackContent_)
         end(QStringLiteral("elected item playing again"));
+}
+
+/// It is shown once more, as paused.
+void BrowserFallback::stop(const QString &why)
+{
+    HUDContent last = *fallbackContent_;
+    last.isPlaying = false;
+    end(why);
+    services_.hudManager.showNowPlaying(std::move(last));
 }
 
 void BrowserFallback::end(const QString &why)

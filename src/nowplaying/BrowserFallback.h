@@ -60,6 +60,7 @@ private:
     void tabsReceived(const QString &browser, const ScriptAnswer &answer);
     void show(const VideoTab &tab, const QString &browser);
     void addArtwork(const VideoTab &tab);
+    void stop(const QString &why);
     void end(const QString &why);
     void abandonQuery();
 

@@ -204,6 +204,15 @@ TEST_F(NowPlayingPollerTest, ABrowsersVideoIsShownAsLongAsItSounds)
     say(tabs, {});
     advance(9s);
     EXPECT_EQ(shown(), u"Film"_s) << "kept";
+    say(tabs, "https://youtu.be/id|~|- YouTube\n");
+    advance(4s);
+    EXPECT_EQ(hud.currentNowPlaying()->isPlaying, true) << "its title is on its way";
+    say(tabs, "https://example.org/|~|Radio\n");
+    advance(5s);
+    EXPECT_EQ(shown(), u"Paused"_s) << "its tab is gone";
+    say(tabs, "https://youtu.be/id|~|Film - YouTube\n");
+    advance(4s);
+    ASSERT_EQ(shown(), u"Film"_s);
     streams.playing.clear();
     advance(1s);
     EXPECT_EQ(hud.currentNowPlaying()->isPlaying, false);
@@ -217,8 +226,10 @@ TEST_F(NowPlayingPollerTest, ABrowsersVideoIsShownAsLongAsItSounds)
     advance(1s);
     EXPECT_EQ(shown(), u"Song"_s);
     auto lines = debugLines().filter(u"FALLBACK"_s);
-    EXPECT_EQ(lines.removeAll(u"FALLBACK no usable tab info from Google Chrome"_s), 5);
+    EXPECT_EQ(lines.removeAll(u"FALLBACK no usable tab info from Google Chrome"_s), 8);
     EXPECT_THAT(lines, ElementsAre(u"FALLBACK showing \"Film\" from Google Chrome"_s,
+                                   u"FALLBACK end — its tab is gone"_s,
+                                   u"FALLBACK showing \"Film\" from Google Chrome"_s,
                                    u"FALLBACK end — browser audio stopped"_s,
                                    u"FALLBACK showing \"Film\" from Google Chrome"_s,
                                    u"FALLBACK end — elected item playing again"_s));
