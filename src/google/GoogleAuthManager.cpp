@@ -80,7 +80,9 @@ std::optional<QString> GoogleAuthManager::reversedClientID() const
 
 void GoogleAuthManager::signIn(SignedIn done)
 {
-    finishSignIn(tl::unexpected(AuthError{AuthError::Kind::Cancelled}));
+    if (storing_) // given up halfway, neither the former token nor the new one would be left
+        return refuse({AuthError::Kind::Cancelled}, std::move(done));
+    cancelSignIn();
     const auto scheme = reversedClientID();
     if (clientID().isEmpty())
         return refuse({AuthError::Kind::NotConfigured}, std::move(done));

@@ -45,7 +45,8 @@ public:
 
     using SignedIn = std::function<void(const tl::expected<void, AuthError> &)>;
 
-    /// `done` gets the outcome once, never from within the call. A sign-in before is cancelled.
+    /// `done` gets the outcome once, never from within the call. A sign-in before is cancelled; but
+    /// if Google's answer to that is already being stored, this one is.
     void signIn(SignedIn done);
 
     /// The user has thought better of it: ends the sign-in with `Cancelled`, unless Google's answer

@@ -106,6 +106,22 @@ TEST_F(GoogleTest, SigningInLeavesOneTokenInTheKeyring)
     EXPECT_EQ(log.take(), QStringList{u"[Google] signed in"_s});
 }
 
+TEST_F(GoogleTest, NoTokenIsLostByAnotherSignInWhileOneIsStored)
+{
+    keychain.secret = u"old"_s;
+    signIn();
+    comeBack(u"?code=c"_s);
+    EXPECT_TRUE(http.answer(tokens(refreshToken)));
+    QString second;
+    manager.signIn([&second](const auto &result) { second = text(result.error()); });
+    manager.cancelSignIn();
+    EXPECT_EQ(second, QString());
+    loop.advance(0s);
+    EXPECT_EQ(second, u"Sign-in was cancelled."_s);
+    EXPECT_EQ(outcome, u"signed in"_s);
+    EXPECT_EQ(keychain.secret.value_or(QString()), u"rt"_s);
+}
+
 TEST_F(GoogleTest, WhatKeepsASignInFromSucceeding)
 {
     const auto failsWith = [this](const QString &expected) {
