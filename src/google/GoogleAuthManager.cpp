@@ -3,7 +3,6 @@
 #include "platform/Endpoints.h"
 #include "settings/SettingsStore.h"
 
-#include <QCoreApplication>
 #include <QDebug>
 #include <QRandomGenerator>
 #include <QUrlQuery>
@@ -20,24 +19,11 @@ using namespace std::chrono_literals;
 
 constexpr Duration expiryMargin = 60s;
 
-struct Words {
-    Q_DECLARE_TR_FUNCTIONS(GoogleSignIn)
-};
-
 QByteArray randomBytes()
 {
     std::array<quint32, 12> words{}; // 48 bytes
     QRandomGenerator::system()->fillRange(words.data(), words.size());
     return {reinterpret_cast<const char *>(words.data()), sizeof words};
-}
-
-AuthError keyringError(const KeychainError &error)
-{
-    return AuthError::http(
-        error.kind == KeychainError::Kind::Refused
-            ? Words::tr("Your keyring is locked. Unlock it and sign in again.")
-            : Words::tr("There is no keyring to keep the sign-in in. It needs a running one, such "
-                        "as GNOME Keyring or KWallet, and is kept nowhere else."));
 }
 
 AuthError errorOf(const WebAuthError &error)
@@ -52,6 +38,7 @@ AuthError errorOf(const WebAuthError &error)
 GoogleAuthManager::GoogleAuthManager(const GoogleAuthTools &tools, SettingsStore &settings)
     : tools_(tools)
     , settings_(settings)
+    , refreshToken_(tools.keychain)
 {
     connect(&settings_, &SettingsStore::didChange, this, [this](const QString &key) {
         if (key == settings_.googleAccountEmail.key())
@@ -80,7 +67,7 @@ std::optional<QString> GoogleAuthManager::reversedClientID() const
 
 void GoogleAuthManager::signIn(SignedIn done)
 {
-    if (storing_) // given up halfway, neither the former token nor the new one would be left
+    if (refreshToken_.isReplacing())
         return refuse({AuthError::Kind::Cancelled}, std::move(done));
     cancelSignIn();
     const auto scheme = reversedClientID();
@@ -102,7 +89,7 @@ void GoogleAuthManager::signIn(SignedIn done)
 
 void GoogleAuthManager::cancelSignIn()
 {
-    if (!storing_)
+    if (!refreshToken_.isReplacing())
         finishSignIn(tl::unexpected(AuthError{AuthError::Kind::Cancelled}));
 }
 
@@ -144,7 +131,7 @@ void GoogleAuthManager::exchange(const QString &code)
 void GoogleAuthManager::store(const TokenResponse &response)
 {
     refresh_.cancel(); // of the account before, whose answer must not replace this one's tokens
-    keep(*response.refreshToken, [this, response](const auto &kept) {
+    refreshToken_.replace(*response.refreshToken, [this, response](const auto &kept) {
         if (!kept) {
             qWarning("[Google] The keyring does not take the refresh token: %s",
                      qUtf8Printable(kept.error().text));
@@ -160,24 +147,10 @@ void GoogleAuthManager::store(const TokenResponse &response)
     });
 }
 
-/// What was there goes first, so that there is never more than one.
-void GoogleAuthManager::keep(const QString &refreshToken, const Keychain::Done &done)
-{
-    const auto write = [this, refreshToken, done](const auto &removed) {
-        if (!removed && removed.error().kind != KeychainError::Kind::NotFound)
-            return done(removed);
-        storing_ = tools_.keychain.write(QString(keychainService), QString(refreshTokenAccount),
-                                         refreshToken, done);
-    };
-    storing_ =
-        tools_.keychain.remove(QString(keychainService), QString(refreshTokenAccount), write);
-}
-
 void GoogleAuthManager::finishSignIn(const tl::expected<void, AuthError> &outcome)
 {
     webAuthSession_.cancel();
     exchange_.cancel();
-    storing_.cancel();
     codeVerifier_.clear();
     if (!waiting_.empty() && !refresh_) { // who came while the tokens were being stored
         if (outcome)
@@ -217,16 +190,14 @@ Task GoogleAuthManager::validAccessToken(TokenDone done)
 
 void GoogleAuthManager::beginRefresh()
 {
-    if (refresh_ || storing_) // which bring a token too
+    if (refresh_ || refreshToken_.isReplacing()) // which bring a token too
         return;
     if (isKeyringClosed_)
         refresh_ = tools_.runLoop.after({}, [this] {
             refresh(tl::unexpected(KeychainError{KeychainError::Kind::Refused, {}}));
         });
     else
-        refresh_ =
-            tools_.keychain.read(QString(keychainService), QString(refreshTokenAccount),
-                                 [this](const Keychain::Secret &secret) { refresh(secret); });
+        refresh_ = refreshToken_.read([this](const Keychain::Secret &secret) { refresh(secret); });
 }
 
 void GoogleAuthManager::refresh(const Keychain::Secret &secret)
@@ -256,15 +227,8 @@ void GoogleAuthManager::refreshed(const TokenResult &result)
         return signOut();
     }
     setAccessToken(*result);
-    if (result->refreshToken && !result->refreshToken->isEmpty()) {
-        rotation_ = tools_.keychain.write(
-            QString(keychainService), QString(refreshTokenAccount), *result->refreshToken,
-            [](const auto &kept) {
-                if (!kept)
-                    qWarning("[Google] The keyring does not keep the new refresh token: %s",
-                             qUtf8Printable(kept.error().text));
-            });
-    }
+    if (result->refreshToken && !result->refreshToken->isEmpty())
+        refreshToken_.rotate(*result->refreshToken);
     if (result->idTokenEmail)
         setEmail(*result->idTokenEmail);
     handOut(accessToken_);
@@ -307,16 +271,7 @@ void GoogleAuthManager::signOut(Keychain::Done done)
     setEmail({});
     Q_EMIT accountReplaced();
     handOut(tl::unexpected(AuthError{AuthError::Kind::SignedOut}));
-    removal_ = tools_.keychain.remove(
-        QString(keychainService), QString(refreshTokenAccount),
-        [done = std::move(done)](const tl::expected<void, KeychainError> &removed) {
-            const bool isGone = removed || removed.error().kind == KeychainError::Kind::NotFound;
-            if (!isGone)
-                qWarning("[Google] The refresh token is still in the keyring: %s",
-                         qUtf8Printable(removed.error().text));
-            if (done)
-                done(isGone ? tl::expected<void, KeychainError>() : removed);
-        });
+    refreshToken_.remove(std::move(done));
 }
 
 } // namespace quillmere

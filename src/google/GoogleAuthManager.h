@@ -1,7 +1,7 @@
 #pragma once
 
+#include "google/RefreshTokenItem.h"
 #include "google/TokenRequest.h"
-#include "platform/Keychain.h"
 #include "platform/RunLoop.h"
 #include "platform/WebAuthSession.h"
 
@@ -29,9 +29,6 @@ class GoogleAuthManager : public QObject
     Q_PROPERTY(bool isSigningIn READ isSigningIn NOTIFY isSigningInChanged FINAL)
 
 public:
-    static constexpr QLatin1StringView keychainService{"com.quillmere.google"};
-    static constexpr QLatin1StringView refreshTokenAccount{"google-refresh-token"};
-
     GoogleAuthManager(const GoogleAuthTools &tools, SettingsStore &settings);
 
     /// The account; nothing: signed out. It outlives the program in `googleAccountEmail`.
@@ -78,7 +75,6 @@ private:
     void redirected(const WebAuthSession::Result &result);
     void exchange(const QString &code);
     void store(const TokenResponse &response);
-    void keep(const QString &refreshToken, const Keychain::Done &done);
     void finishSignIn(const tl::expected<void, AuthError> &outcome);
     void setSigningIn(bool signingIn);
 
@@ -92,6 +88,8 @@ private:
     GoogleAuthTools tools_;
     SettingsStore &settings_;
 
+    RefreshTokenItem refreshToken_;
+
     bool isSigningIn_ = false;
     SignedIn signedIn_;
     QString redirectURI_;
@@ -99,7 +97,6 @@ private:
     QByteArray codeVerifier_;
     Task webAuthSession_;
     Task exchange_;
-    Task storing_;
 
     QString accessToken_;
     Instant accessTokenExpiry_;
@@ -107,8 +104,6 @@ private:
     Task refresh_;
     std::map<quint64, TokenDone> waiting_;
     quint64 lastWaiting_ = 0;
-    Task removal_;
-    Task rotation_;
     Owner owner_;
 };
 
