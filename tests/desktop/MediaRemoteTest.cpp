@@ -171,6 +171,28 @@ TEST_F(HostilePlayerTest, NoNonsenseChangesWhatIsKnown)
     EXPECT_FALSE(remote.toggleShuffle() || remote.cycleRepeat());
 }
 
+TEST_F(MediaRemoteTest, PlayersAreFoundOnceTheBusTells)
+{
+    ChildProgram player(u"/usr/bin/python3"_s, {QStringLiteral(HOSTILE_PLAYER)});
+    ASSERT_TRUE(waitUntil([&] { return player.process().canReadLine(); }));
+    for (const QString &method : {u"ListNames"_s, u"GetNameOwner"_s}) {
+        bus.forbid(method);
+        LogCapture log;
+        ManualRunLoop runLoop;
+        MprisMediaRemote remote{runLoop, notifications, http, bus.connect()};
+        remote.registerForNowPlayingNotifications();
+        EXPECT_TRUE(waitUntil([&] { return !log.take().isEmpty(); })) << method.toStdString();
+        bus.forbid({});
+        bool isFound = false;
+        EXPECT_TRUE(waitUntil([&] {
+            runLoop.advance(20ms);
+            remote.getNowPlayingInfo(owner, [&](const auto &info) { isFound |= !info.isEmpty(); });
+            return isFound;
+        })) << method.toStdString();
+        EXPECT_GE(runLoop.now(), Instant(1h + 1s));
+    }
+}
+
 QByteArray picture(Qt::GlobalColor color)
 {
     QImage image(8, 8, QImage::Format_RGB32);

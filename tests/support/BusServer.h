@@ -19,13 +19,7 @@ class BusServer
 public:
     BusServer()
     {
-        write(QStringLiteral("bus.conf"),
-              QStringLiteral("<busconfig><type>session</type><listen>unix:path=%1/bus</listen>"
-                             "<auth>EXTERNAL</auth><servicedir>%1</servicedir>"
-                             "<policy context='default'><allow own='*'/>"
-                             "<allow send_destination='*' eavesdrop='true'/>"
-                             "<allow eavesdrop='true'/></policy></busconfig>")
-                  .arg(directory_.path()));
+        configure({});
         start();
     }
 
@@ -61,10 +55,18 @@ public:
     {
         write(name + QStringLiteral(".service"),
               QStringLiteral("[D-BUS Service]\nName=%1\nExec=%2\n").arg(name, command));
-        const QString daemon = QStringLiteral("org.freedesktop.DBus");
-        connect().call(QDBusMessage::createMethodCall(daemon,
-                                                      QStringLiteral("/org/freedesktop/DBus"),
-                                                      daemon, QStringLiteral("ReloadConfig")));
+        reload();
+    }
+
+    /// Has the bus refuse calls of this method; of none if it is empty.
+    void forbid(const QString &method)
+    {
+        configure(
+            method.isEmpty()
+                ? QString()
+                : QStringLiteral("<deny send_interface='org.freedesktop.DBus' send_member='%1'/>")
+                      .arg(method));
+        reload();
     }
 
     /// A connection of its own, as another program would have.
@@ -75,6 +77,25 @@ public:
     }
 
 private:
+    void configure(const QString &rule)
+    {
+        write(QStringLiteral("bus.conf"),
+              QStringLiteral("<busconfig><type>session</type><listen>unix:path=%1/bus</listen>"
+                             "<auth>EXTERNAL</auth><servicedir>%1</servicedir>"
+                             "<policy context='default'><allow own='*'/>"
+                             "<allow send_destination='*' eavesdrop='true'/>"
+                             "<allow eavesdrop='true'/>%2</policy></busconfig>")
+                  .arg(directory_.path(), rule));
+    }
+
+    void reload() const
+    {
+        const QString daemon = QStringLiteral("org.freedesktop.DBus");
+        connect().call(QDBusMessage::createMethodCall(daemon,
+                                                      QStringLiteral("/org/freedesktop/DBus"),
+                                                      daemon, QStringLiteral("ReloadConfig")));
+    }
+
     void write(const QString &name, const QString &text)
     {
         QFile file(directory_.filePath(name));

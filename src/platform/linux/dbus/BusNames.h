@@ -18,6 +18,7 @@ inline constexpr QLatin1StringView propertiesInterface{"org.freedesktop.DBus.Pro
 
 inline constexpr QLatin1StringView daemonName{"org.freedesktop.DBus"};
 inline constexpr QLatin1StringView daemonPath{"/org/freedesktop/DBus"};
+inline constexpr QLatin1StringView nameHasNoOwner{"org.freedesktop.DBus.Error.NameHasNoOwner"};
 
 /// Where the bus library itself reports that the connection is gone.
 inline constexpr QLatin1StringView localPath{"/org/freedesktop/DBus/Local"};

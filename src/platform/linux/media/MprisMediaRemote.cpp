@@ -53,7 +53,8 @@ void MprisMediaRemote::begin()
     bus_.connect({}, bus::localPath, bus::localInterface, QStringLiteral("Disconnected"), this,
                  SLOT(disconnected()));
     names_ = std::make_unique<MprisPlayers>(
-        bus_, [this](const auto &suffix, const auto &owner) { ownerChanged(suffix, owner); });
+        runLoop_, bus_,
+        [this](const auto &suffix, const auto &owner) { ownerChanged(suffix, owner); });
 }
 
 void MprisMediaRemote::registerForNowPlayingNotifications()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/RunLoop.h"
 #include "platform/linux/dbus/BusCalls.h"
 
 #include <QDBusServiceWatcher>
@@ -16,18 +17,22 @@ class MprisPlayers
 public:
     /// `onChanged` gets a player's new unique name, empty when it is gone; never from within the
     /// constructor.
-    MprisPlayers(const QDBusConnection &bus,
+    MprisPlayers(RunLoop &runLoop, const QDBusConnection &bus,
                  std::function<void(const QString &suffix, const QString &owner)> onChanged);
 
 private:
     void ask();
     void askOwner(const QString &name);
+    void failed(const QDBusError &error);
     void set(const QString &name, const QString &owner);
 
+    RunLoop &runLoop_;
     std::function<void(const QString &, const QString &)> onChanged_;
     QHash<QString, QString> owners_;
     BusCalls calls_;
     QDBusServiceWatcher watcher_;
+    Duration retryDelay_;
+    Task retry_;
 };
 
 } // namespace quillmere
