@@ -1,5 +1,6 @@
 #include "messages/EmailMonitor.h"
 
+#include "platform/Loggable.h"
 #include "settings/SettingsStore.h"
 
 #include <QCoreApplication>
@@ -16,6 +17,8 @@ using namespace std::chrono_literals;
 constexpr Duration shortestInterval = 30s;
 constexpr Duration tolerance = 5s;
 constexpr Duration scriptLimit = 5s; // what an answer may take on top
+
+constexpr qsizetype longestComplaint = 500; // characters for the log
 
 /// By how much a mail server's clock may be ahead of ours.
 constexpr qint64 clockDifference = 3600; // seconds
@@ -71,7 +74,8 @@ void EmailMonitor::take(const ScriptAnswer &answer)
     if (!answer.hasSucceeded)
         return;
     if (answer.output.startsWith("error")) {
-        qWarning("[EmailMonitor] Script failed: %s", answer.output.constData());
+        qWarning("[EmailMonitor] Script failed: %s",
+                 qUtf8Printable(loggable(QString::fromUtf8(answer.output).left(longestComplaint))));
         return;
     }
     const auto mail = readUnreadMail(answer.output);

@@ -35,7 +35,7 @@ void BrowserArtwork::askNextFrontTab()
         return askAllTabs();
     script_ = tools_.scripts.run(scripts::frontTab, {browsers_.takeFirst()},
                                  [this](const ScriptAnswer &answer) {
-                                     tools_.scriptLog.log(answer);
+                                     tools_.scriptLog.logSize(answer);
                                      const QString url = QString::fromUtf8(answer.output).trimmed();
                                      const QString videoID = videoIdentifier(url);
                                      if (videoID.isEmpty())
@@ -48,7 +48,7 @@ void BrowserArtwork::askAllTabs()
 {
     script_ = tools_.scripts.run(
         scripts::browserTabs, {request_.bundleID}, [this](const ScriptAnswer &answer) {
-            tools_.scriptLog.log(answer);
+            tools_.scriptLog.logSize(answer);
             // A tab in the background may be any video: only its title tells that it is this one.
             const auto tab = videoTabTitled(videoTabs(parseTabs(QString::fromUtf8(answer.output))),
                                             request_.title);

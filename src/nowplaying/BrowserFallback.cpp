@@ -87,7 +87,7 @@ void BrowserFallback::askTabs(const QString &browser)
     tabsScript_ = services_.scripts.run(scripts::browserTabs, {browser},
                                         [this, browser](const ScriptAnswer &answer) {
                                             fallbackFetchInFlight_ = false;
-                                            scriptLog_.log(answer);
+                                            scriptLog_.logSize(answer);
                                             tabsReceived(browser, answer);
                                         });
 }

@@ -1,32 +1,36 @@
 #include "nowplaying/MediaLog.h"
 
-#include <algorithm>
+#include "platform/Loggable.h"
 
 namespace quillmere {
 
 Q_LOGGING_CATEGORY(mediaLog, "quillmere.media", QtInfoMsg)
 
-QString loggable(QString text)
-{
-    const auto isControl = [](QChar c) {
-        return c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-               c == QChar::ParagraphSeparator;
-    };
-    std::ranges::replace_if(text, isControl, QChar(u' '));
-    return text;
-}
-
 void ScriptLog::log(const ScriptAnswer &answer)
 {
     if (!answer.hasRun)
         return;
+    logErrors(answer);
+    qCDebug(mediaLog, "[Quillmere] osascript: \"%s\"",
+            qUtf8Printable(loggable(QString::fromUtf8(answer.output))));
+}
+
+void ScriptLog::logSize(const ScriptAnswer &answer)
+{
+    if (!answer.hasRun)
+        return;
+    logErrors(answer);
+    qCDebug(mediaLog, "[Quillmere] osascript: %lld bytes",
+            static_cast<long long>(answer.output.size()));
+}
+
+void ScriptLog::logErrors(const ScriptAnswer &answer)
+{
     if (!answer.errors.isEmpty() && answer.errors != lastErrors_) {
         lastErrors_ = answer.errors;
         qCWarning(mediaLog, "[Quillmere] osascript stderr: %s",
                   qUtf8Printable(loggable(QString::fromUtf8(answer.errors))));
     }
-    qCDebug(mediaLog, "[Quillmere] osascript: \"%s\"",
-            qUtf8Printable(loggable(QString::fromUtf8(answer.output))));
 }
 
 } // namespace quillmere

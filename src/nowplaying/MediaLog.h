@@ -3,16 +3,12 @@
 #include "platform/ScriptRunner.h"
 
 #include <QLoggingCategory>
-#include <QString>
 
 namespace quillmere {
 
 /// What happens every second or with every track is a debug message, which is off unless asked for
 /// (QT_LOGGING_RULES="quillmere.media=true"): a day of music must not fill the journal.
 Q_DECLARE_LOGGING_CATEGORY(mediaLog)
-
-/// Texts from players and pages as they may go to the console: one line, no control characters.
-QString loggable(QString text);
 
 /// Logs what the programs that were asked have printed.
 class ScriptLog
@@ -22,7 +18,12 @@ public:
     /// second, is a warning the first time only.
     void log(const ScriptAnswer &answer);
 
+    /// The same for open pages: what they are is nobody else's business, so only how much it was.
+    void logSize(const ScriptAnswer &answer);
+
 private:
+    void logErrors(const ScriptAnswer &answer);
+
     QByteArray lastErrors_;
 };
 

@@ -1,6 +1,7 @@
 #include "nowplaying/NowPlayingArtworkService.h"
 
 #include "nowplaying/ArtworkAddresses.h"
+#include "platform/Loggable.h"
 #include "platform/PictureDecoder.h"
 #include "platform/RunLoop.h"
 

@@ -2,6 +2,7 @@
 
 #include "nowplaying/ArtworkAddresses.h"
 #include "nowplaying/MediaLog.h"
+#include "platform/Loggable.h"
 
 namespace quillmere {
 

@@ -4,6 +4,7 @@
 #include "nowplaying/MediaLog.h"
 #include "platform/Endpoints.h"
 #include "platform/HttpClient.h"
+#include "platform/Loggable.h"
 
 namespace quillmere {
 

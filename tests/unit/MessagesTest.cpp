@@ -296,7 +296,7 @@ TEST_F(EmailMonitorTest, MailThatComesIsAnnounced)
         {"2\nc\nHi there\nBob", {}},
         {"2\nd\nOther\nBob", u"Bob/Other/"_s},
         {"3\nd\nOther\nBob", u"Bob/Other/"_s},
-        {"error: Mail got an error", {}},
+        {"error: Mail got\nan error", {}},
         {"nonsense", {}},
         {"0", {}},
         {"1\ne\n\nCy", u"Cy//"_s},
@@ -306,6 +306,9 @@ TEST_F(EmailMonitorTest, MailThatComesIsAnnounced)
     EXPECT_THAT(log.take(), testing::ElementsAre(
                                 u"[EmailMonitor] Script failed: error: Mail got an error"_s,
                                 u"[EmailMonitor] Script did not tell how much mail is unread"_s));
+
+    after("error" + QByteArray(200'000, 'x'));
+    EXPECT_LT(log.take().join(QString()).size(), 600);
 
     settings.showEmailHUD.set(false);
     runner.calls.clear();

@@ -225,6 +225,9 @@ TEST_F(NowPlayingPollerTest, ABrowsersVideoIsShownAsLongAsItSounds)
     play(u"Song"_s);
     advance(1s);
     EXPECT_EQ(shown(), u"Song"_s);
+    const QString said = console.take().join(u'\n');
+    EXPECT_TRUE(said.contains(u"[Quillmere] osascript: 37 bytes"_s) &&
+                !said.contains(u"youtu.be"_s));
     auto lines = debugLines().filter(u"FALLBACK"_s);
     EXPECT_EQ(lines.removeAll(u"FALLBACK no usable tab info from Google Chrome"_s), 8);
     EXPECT_THAT(lines, ElementsAre(u"FALLBACK showing \"Film\" from Google Chrome"_s,
