@@ -32,8 +32,12 @@ BusCalls::BusCalls(QDBusConnection connection)
 void BusCalls::call(const QDBusMessage &message, Duration timeout,
                     std::function<void(const BusReply &)> done)
 {
-    auto *watcher = new QDBusPendingCallWatcher(
-        connection_.asyncCall(message, milliseconds(timeout)), &pending_);
+    // A call without a connection would never be finished.
+    const auto pending = connection_.isConnected()
+                             ? connection_.asyncCall(message, milliseconds(timeout))
+                             : QDBusPendingCall::fromError(QDBusError(
+                                   QDBusError::Disconnected, QStringLiteral("no connection")));
+    auto *watcher = new QDBusPendingCallWatcher(pending, &pending_);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &pending_,
                      [watcher, done = std::move(done)]() mutable {
                          watcher->deleteLater();
