@@ -20,6 +20,20 @@ struct KeychainError {
     QString text; ///< for the log
 };
 
+/// What keeps the secrets, as far as that can be known without asking the user.
+struct KeyringStatus {
+    enum class Condition {
+        Missing,   ///< nothing does
+        Startable, ///< it comes when it is needed
+        Empty,     ///< it is there, but has no keyring yet to keep anything in
+        Unlocked,
+        Locked ///< the user is asked for a password when a secret is needed
+    };
+    Condition condition = Condition::Missing;
+    QString name{}; ///< of the program as people know it; empty if it is an unknown one
+    bool operator==(const KeyringStatus &) const = default;
+};
+
 /// The user's secrets. There is no plain-text fallback. Main thread only.
 class Keychain
 {
@@ -41,6 +55,10 @@ public:
 
     /// Deletes a secret; that there is none is an error of the kind NotFound.
     virtual Task remove(const QString &service, const QString &account, Done done) = 0;
+
+    /// `listener` gets what is there soon and then each time it changes, until the Task is
+    /// destroyed. Starts nothing and asks nobody for a password.
+    virtual Task watchKeyring(std::function<void(const KeyringStatus &)> listener) = 0;
 };
 
 } // namespace quillmere

@@ -78,6 +78,9 @@ PageNotes::PageNotes(SettingsServices &services, SettingsPage page)
     case SettingsPage::Email:
         email();
         break;
+    case SettingsPage::Google:
+        google();
+        break;
     case SettingsPage::Discord:
         messages(WatchedNotificationApp::Discord);
         break;

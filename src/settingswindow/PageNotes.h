@@ -39,6 +39,7 @@ private:
     void sound();
     void connectivity();
     void email();
+    void google();
     void messages(WatchedNotificationApp app);
     void nowPlaying();
     void weather();

@@ -4,7 +4,9 @@
 #include "app/WeatherReports.h"
 #include "island/HUDManager.h"
 #include "messages/WatchedNotificationApp.h"
+#include "platform/Keychain.h"
 #include "platform/MediaRemote.h"
+#include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
 #include "settings/SettingsStore.h"
 #include "settingswindow/SettingRow.h"
@@ -17,6 +19,57 @@
 #include <cmath>
 
 namespace quillmere {
+
+namespace {
+
+QString nameOf(const KeyringStatus &keyring)
+{
+    return keyring.name.isEmpty()
+               ? translated(QT_TRANSLATE_NOOP("Settings", "A keyring of this desktop"))
+               : keyring.name;
+}
+
+/// Of a keyring that there is.
+const char *textOf(KeyringStatus::Condition condition)
+{
+    using enum KeyringStatus::Condition;
+    switch (condition) {
+    case Startable:
+        return QT_TRANSLATE_NOOP("Settings", "%1. It starts when it is needed.");
+    case Empty:
+        return QT_TRANSLATE_NOOP("Settings",
+                                 "%1. It keeps nothing yet and will ask for a password for that.");
+    case Locked:
+        return QT_TRANSLATE_NOOP(
+            "Settings", "%1. It is locked, and will ask for its password when it is needed.");
+    default:
+        return QT_TRANSLATE_NOOP("Settings", "%1. It is unlocked.");
+    }
+}
+
+void showKeyring(SettingRow &row, const KeyringStatus &keyring)
+{
+    const bool isThere = keyring.condition != KeyringStatus::Condition::Missing;
+    row.setExplanation(isThere ? translated(textOf(keyring.condition)).arg(nameOf(keyring))
+                               : QString());
+    row.setWarning(isThere ? QString()
+                           : translated(QT_TRANSLATE_NOOP(
+                                 "Settings", "No keyring was found, and the sign-in is kept "
+                                             "nowhere else. Install the package gnome-keyring, or "
+                                             "turn on the secret service of KeePassXC or "
+                                             "KWallet.")));
+}
+
+} // namespace
+
+void PageNotes::google()
+{
+    SettingRow *keyring = row("keyring", QT_TRANSLATE_NOOP("Settings", "Sign-in is kept in"),
+                              QT_TRANSLATE_NOOP("Settings", "Looking…"));
+    tasks_.push_back(services_.platform.keychain.watchKeyring(
+        [keyring](const KeyringStatus &status) { showKeyring(*keyring, status); }));
+    group(QT_TRANSLATE_NOOP("Settings", "Keyring"), {keyring});
+}
 
 void PageNotes::email()
 {

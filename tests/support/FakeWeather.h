@@ -98,6 +98,7 @@ public:
                           secret = tl::unexpected(KeychainError{KeychainError::Kind::NotFound, {}});
                       });
     }
+    Task watchKeyring(std::function<void(const KeyringStatus &)>) override { return {}; }
     void answer()
     {
         if (const auto done = std::exchange(waiting_, nullptr))

@@ -68,6 +68,7 @@ LinuxPlatform::LinuxPlatform(RunLoop &runLoop, QWindow &panelWindow, DBusService
     , systemSound_(runLoop)
     , locationManager_(runLoop)
     , geocoder_(scriptRunner_)
+    , keychain_(sessionBus(bus))
     , reachability_(runLoop)
     , notificationFeed_(runLoop, sessionBusAddress())
     , newMailSignal_(sessionBus(bus))

@@ -1,5 +1,7 @@
 #include "platform/linux/keyring/SecretKeychain.h"
 
+#include "platform/linux/keyring/KeyringWatch.h"
+
 #include <qt6keychain/keychain.h>
 
 #include <memory>
@@ -84,6 +86,13 @@ Task SecretKeychain::remove(const QString &service, const QString &account, Done
     using Job = QKeychain::DeletePasswordJob;
     return run<Job>(new Job(service), account,
                     [done = std::move(done)](const Job &job) { done(outcomeOf(job)); });
+}
+
+Task SecretKeychain::watchKeyring(std::function<void(const KeyringStatus &)> listener)
+{
+    auto watch = std::make_shared<KeyringWatch>(sessionBus_, KeyringWatch::walletOfSession(),
+                                                std::move(listener));
+    return Task([watch = std::move(watch)]() mutable { watch.reset(); });
 }
 
 } // namespace quillmere

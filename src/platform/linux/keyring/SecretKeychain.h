@@ -2,6 +2,8 @@
 
 #include "platform/Keychain.h"
 
+#include <QDBusConnection>
+
 namespace quillmere {
 
 /// The keyring of the desktop, by QtKeychain; under its attributes a secret's service is "server"
@@ -9,11 +11,20 @@ namespace quillmere {
 class SecretKeychain : public Keychain
 {
 public:
+    explicit SecretKeychain(const QDBusConnection &sessionBus)
+        : sessionBus_(sessionBus)
+    {
+    }
+
     Task read(const QString &service, const QString &account,
               std::function<void(const Secret &)> done) override;
     Task write(const QString &service, const QString &account, const QString &secret,
                Done done) override;
     Task remove(const QString &service, const QString &account, Done done) override;
+    Task watchKeyring(std::function<void(const KeyringStatus &)> listener) override;
+
+private:
+    QDBusConnection sessionBus_;
 };
 
 } // namespace quillmere
