@@ -3,6 +3,7 @@
 #include "platform/Owner.h"
 
 #include <QLatin1StringView>
+#include <QStringList>
 #include <QVariantMap>
 
 #include <functional>
@@ -53,6 +54,11 @@ public:
 
     /// To repeating the list, then the track, then nothing. False if there is no player that can.
     virtual bool cycleRepeat() = 0;
+
+    /// Which players are there, whether or not they play: each name once, as the player gives it to
+    /// people, in the order in which they came. Being asked, it begins to look for them; told of by
+    /// playersDidChange, whoever has registered or not.
+    virtual QStringList players() = 0;
 };
 
 /// The keys of what a player said, and the type of each value.
@@ -88,6 +94,7 @@ inline constexpr QLatin1StringView
 inline constexpr QLatin1StringView
     isPlaying("kMRMediaRemoteNowPlayingApplicationIsPlayingUserInfoKey");
 inline constexpr QLatin1StringView playModeDidChange("QuillmerePlayModeDidChange");
+inline constexpr QLatin1StringView playersDidChange("QuillmerePlayersDidChange");
 inline constexpr QLatin1StringView infoChanged("com.apple.mediaremote.nowplaying.info.changed");
 inline constexpr QLatin1StringView
     applicationChanged("com.apple.mediaremote.nowplaying.applicationchanged");

@@ -48,6 +48,7 @@ private:
 
     void showPlace(SettingRow &row);
     void showWeather(SettingRow &row) const;
+    void showPlayers(SettingRow &row) const;
     void showPlayer(SettingRow &row) const;
 
     SettingRow *row(const char *id, const char *title, const char *explanation = "");

@@ -113,18 +113,32 @@ void PageNotes::messages(WatchedNotificationApp app)
 
 void PageNotes::nowPlaying()
 {
-    SettingRow *found = row("player", QT_TRANSLATE_NOOP("Settings", "Playing now"));
-    if (!services_.platform.mediaRemote.isAvailable())
-        found->setWarning(translated(
-            QT_TRANSLATE_NOOP("Settings", "There is no session bus, so no player can be asked.")));
-    showPlayer(*found);
-    connect(&services_.hudManager, &HUDManager::currentNowPlayingChanged, found,
-            [this, found] { showPlayer(*found); });
+    SettingRow *players = row("players", QT_TRANSLATE_NOOP("Settings", "Players"));
+    showPlayers(*players);
+    tasks_.push_back(services_.platform.notificationCenter.observe(
+        mediaEvents::playersDidChange,
+        [this, players](const QVariantMap &) { showPlayers(*players); }));
+    SettingRow *track = row("track", QT_TRANSLATE_NOOP("Settings", "Playing now"));
+    showPlayer(*track);
+    connect(&services_.hudManager, &HUDManager::currentNowPlayingChanged, track,
+            [this, track] { showPlayer(*track); });
     SettingRow *tabs = row(
         "browserTabs", QT_TRANSLATE_NOOP("Settings", "Browser tabs"),
         QT_TRANSLATE_NOOP("Settings", "Chromium and its kin tell of their tabs only when they are "
-                                      "started so: chromium --remote-debugging-port=0"));
-    group(QT_TRANSLATE_NOOP("Settings", "Found"), {found, tabs});
+                                      "started so:\nchromium --remote-debugging-port=0"));
+    group(QT_TRANSLATE_NOOP("Settings", "Found"), {players, track, tabs});
+}
+
+void PageNotes::showPlayers(SettingRow &row) const
+{
+    MediaRemote &remote = services_.platform.mediaRemote;
+    const QStringList names = remote.players();
+    if (!remote.isAvailable())
+        return row.setWarning(translated(
+            QT_TRANSLATE_NOOP("Settings", "There is no session bus, so no player can be asked.")));
+    row.setExplanation(names.isEmpty()
+                           ? translated(QT_TRANSLATE_NOOP("Settings", "No player is running."))
+                           : QLocale().createSeparatedList(names));
 }
 
 void PageNotes::showPlayer(SettingRow &row) const

@@ -316,7 +316,11 @@ TEST_F(RealPlayerTest, ObeyAndTellWhereTheyAre)
     cover.fill(Qt::cyan);
     ASSERT_TRUE(cover.save(folder.filePath(u"cover.png"_s)));
 
+    QList<QStringList> players;
+    const auto list = notifications.observe(
+        mediaEvents::playersDidChange, [&](const auto &) { players.append(remote.players()); });
     EXPECT_TRUE(ask().isEmpty());
+    EXPECT_TRUE(remote.players().isEmpty());
     const auto player = startPlayer({first, second});
     const auto plays = [this](const QString &title, double rate) {
         return waitUntil([&] {
@@ -368,6 +372,8 @@ TEST_F(RealPlayerTest, ObeyAndTellWhereTheyAre)
     EXPECT_TRUE(plays(u"First Light"_s, 1));
     bus.stop();
     EXPECT_TRUE(waitUntil([&] { return !remote.isAvailable() && ask().isEmpty(); }));
+    // Two of the same name are one, and one that is paused is there as well.
+    EXPECT_EQ(players, (QList<QStringList>{{u"mpv"_s}, {}}));
 }
 
 TEST_F(RealPlayerTest, AStormCostsAFewQuestions)

@@ -37,6 +37,7 @@ public:
     std::optional<RepeatMode> repeatMode() const override { return std::nullopt; }
     bool toggleShuffle() override { return false; }
     bool cycleRepeat() override { return false; }
+    QStringList players() override { return {}; }
 
     void answer()
     {

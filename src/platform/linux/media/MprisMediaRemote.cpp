@@ -138,6 +138,29 @@ void MprisMediaRemote::announcePlayMode()
         notificationCenter_.post(mediaEvents::playModeDidChange);
 }
 
+QStringList MprisMediaRemote::players()
+{
+    begin();
+    return playerNames();
+}
+
+QStringList MprisMediaRemote::playerNames() const
+{
+    QStringList names;
+    for (const auto &player : players_)
+        names.append(player->name());
+    names.removeDuplicates();
+    names.removeAll(QString());
+    return names;
+}
+
+void MprisMediaRemote::announcePlayers()
+{
+    const QStringList names = playerNames();
+    if (std::exchange(toldPlayers_, names) != names)
+        notificationCenter_.post(mediaEvents::playersDidChange);
+}
+
 void MprisMediaRemote::ownerChanged(const QString &suffix, const QString &owner)
 {
     const auto found = std::find_if(players_.begin(), players_.end(),
@@ -155,11 +178,13 @@ void MprisMediaRemote::ownerChanged(const QString &suffix, const QString &owner)
             [this](MprisPlayer &player, const auto &change) { reported(player, change); }));
     }
     electAgain();
+    announcePlayers();
 }
 
 void MprisMediaRemote::reported(MprisPlayer &player, const MprisPlayer::Change &change)
 {
     electAgain();
+    announcePlayers();
     if (&player != elected_)
         return;
     announcePlayMode();
@@ -240,6 +265,7 @@ void MprisMediaRemote::disconnected()
     for (const auto &gone : std::exchange(players_, {}))
         gone->answerWaiters();
     artwork_.want({});
+    announcePlayers();
     announce({.info = true, .application = true, .isPlaying = true});
 }
 

@@ -34,6 +34,7 @@ public:
     std::optional<RepeatMode> repeatMode() const override;
     bool toggleShuffle() override;
     bool cycleRepeat() override;
+    QStringList players() override;
 
 private:
     /// What has changed since the last posts.
@@ -49,6 +50,8 @@ private:
     void electAgain();
     void announce(const News &news);
     void announcePlayMode();
+    void announcePlayers();
+    QStringList playerNames() const;
     void post();
     QVariantMap infoOf(const MprisPlayer &player) const;
     Q_SLOT void disconnected();
@@ -61,6 +64,7 @@ private:
     bool isRegistered_ = false;
     News news_;
     std::pair<std::optional<bool>, std::optional<RepeatMode>> playMode_; ///< that was told of last
+    QStringList toldPlayers_;
     Instant lastPost_{};
     Task nextPost_;
     std::vector<std::unique_ptr<MprisPlayer>> players_; // in the order in which they came

@@ -50,6 +50,7 @@ MprisPlayer::MprisPlayer(RunLoop &runLoop, const QDBusConnection &bus, Complaint
     , suffix_(suffix)
     , busOwner_(owner)
     , onReport_(std::move(onReport))
+    , name_(playerReport::name({}, suffix))
     , bundleIdentifier_(playerReport::bundleIdentifier({}, suffix))
     , calls_(bus)
 {
@@ -92,9 +93,9 @@ void MprisPlayer::askWhoItIs()
                     if (!properties)
                         return;
                     const auto application = playerReport::application(*properties);
+                    name_ = playerReport::name(application, suffix_);
                     bundleIdentifier_ = playerReport::bundleIdentifier(application, suffix_);
-                    if (isKnown_)
-                        onReport_(*this, {.info = true});
+                    onReport_(*this, {.info = isKnown_});
                 });
     auto process = QDBusMessage::createMethodCall(bus::daemonName, bus::daemonPath, bus::daemonName,
                                                   QStringLiteral("GetConnectionUnixProcessID"));

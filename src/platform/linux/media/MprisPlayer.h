@@ -37,6 +37,8 @@ public:
     /// It has answered at least once.
     bool isKnown() const { return isKnown_; }
     const QString &suffix() const { return suffix_; }
+    /// As it calls itself, else what is known of it.
+    const QString &name() const { return name_; }
     const QString &bundleIdentifier() const { return bundleIdentifier_; }
     const Track &track() const { return track_; }
     Candidate candidate() const;
@@ -93,6 +95,7 @@ private:
     QString busOwner_;
     std::function<void(MprisPlayer &, const Change &)> onReport_;
 
+    QString name_;
     QString bundleIdentifier_;
     qint64 process_ = 0;
     bool isKnown_ = false;

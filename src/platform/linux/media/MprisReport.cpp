@@ -290,6 +290,12 @@ QString bundleIdentifier(const PlayerApplication &application, const QString &su
     return canonicalBundleIdentifier(cleanText(suffix.section(u'.', 0, 0)));
 }
 
+QString name(const PlayerApplication &application, const QString &suffix)
+{
+    return application.identity.isEmpty() ? cleanText(suffix.section(u'.', 0, 0))
+                                          : application.identity;
+}
+
 } // namespace quillmere::playerReport
 
 namespace quillmere {

@@ -91,6 +91,9 @@ PlayerApplication application(const QVariantMap &properties);
 /// The player's bundle identifier. Its bus name, without the common beginning, is the last resort.
 QString bundleIdentifier(const PlayerApplication &application, const QString &suffix);
 
+/// What people know the player by. Its bus name is the last resort here, too.
+QString name(const PlayerApplication &application, const QString &suffix);
+
 } // namespace playerReport
 
 } // namespace quillmere
