@@ -7,6 +7,11 @@ Column {
 
     required property QtObject account
 
+    // Shows the field for the client ID and puts the keyboard there.
+    function take() {
+        box.item.askForClientId();
+    }
+
     Rectangle {
         width: parent.width
         height: box.height + 28

@@ -42,9 +42,9 @@ constexpr std::array calendarDay{
 };
 
 constexpr std::array googleAccess{
-    text("googleClientID", QT_TRANSLATE_NOOP("Settings", "Client ID"),
-         QT_TRANSLATE_NOOP("Settings",
-                           "Of a Google project of your own; empty for the built-in one.")),
+    inBox(text("googleClientID", QT_TRANSLATE_NOOP("Settings", "Client ID"),
+               QT_TRANSLATE_NOOP("Settings",
+                                 "Of a Google project of your own; empty for the built-in one."))),
 };
 
 constexpr std::array discord{

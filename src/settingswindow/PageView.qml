@@ -16,6 +16,8 @@ PageScroller {
             if (row && row.control)
                 return row.control.take();
         }
+        if (key !== "" && account.item)
+            account.item.take();
     }
 
     Text {
@@ -57,6 +59,8 @@ PageScroller {
         Accessible.ignored: !visible
     }
     Loader {
+        id: account
+
         width: parent.width
         active: page.model.pageId === "google" && page.model.googleAccount !== null
         visible: active

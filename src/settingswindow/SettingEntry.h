@@ -35,6 +35,7 @@ struct SettingEntry {
     std::array<const char *, 4> choices{}; ///< titles, in the order of the setting's choices
     SettingNeed need = SettingNeed::Nothing;
     bool isLocal = false; ///< concerns this machine only and is kept apart
+    bool isInBox = false; ///< its control is in the account box of its page
 };
 
 /// Settings that stand together on a page, below a heading.
@@ -93,6 +94,12 @@ constexpr SettingEntry text(const char *key, const char *title, const char *expl
 constexpr SettingEntry local(SettingEntry entry)
 {
     entry.isLocal = true;
+    return entry;
+}
+
+constexpr SettingEntry inBox(SettingEntry entry)
+{
+    entry.isInBox = true;
     return entry;
 }
 

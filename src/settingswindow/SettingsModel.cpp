@@ -113,7 +113,10 @@ void SettingsModel::rebuild()
             continue;
         QVariantList rows;
         for (const SettingEntry &entry : group.entries)
-            rows.append(QVariant::fromValue(makeRow(entry)));
+            if (!entry.isInBox)
+                rows.append(QVariant::fromValue(makeRow(entry)));
+        if (rows.isEmpty())
+            continue;
         groups_.append(QVariantMap{{QStringLiteral("heading"), translated(group.heading)},
                                    {QStringLiteral("rows"), rows}});
     }
@@ -174,11 +177,16 @@ bool SettingsModel::canReset() const
 
 void SettingsModel::resetPage()
 {
-    for (auto *row : rows_->findChildren<SettingRow *>(Qt::FindDirectChildrenOnly)) {
-        if (Setting *setting = services_.settings.registry().find(row->key()))
-            setting->reset();
-        else
-            services_.platform.localDefaults.removeObject(row->key());
+    for (const SettingGroup &group : settingGroups()) {
+        if (group.page != static_cast<SettingsPage>(page_))
+            continue;
+        for (const SettingEntry &entry : group.entries) {
+            const auto key = QString::fromLatin1(entry.key);
+            if (Setting *setting = services_.settings.registry().find(key))
+                setting->reset();
+            else
+                services_.platform.localDefaults.removeObject(key);
+        }
     }
     localChanged();
     services_.localKeyWritten();

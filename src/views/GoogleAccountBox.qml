@@ -22,6 +22,25 @@ Item {
     implicitWidth: 480
     implicitHeight: column.implicitHeight
 
+    // With the keyboard in the field for it; who is signed in has to sign out first.
+    function askForClientId() {
+        if (!signedOut)
+            return;
+        explains = true;
+        input.forceActiveFocus(Qt.TabFocusReason);
+        input.selectAll();
+    }
+
+    Connections {
+        target: box.account
+
+        // From elsewhere; what is being typed may have blanks at its ends.
+        function onClientIdChanged() {
+            if (input.text.trim() !== box.account.clientId)
+                input.text = box.account.clientId;
+        }
+    }
+
     // Not bound: it stays when what is typed has become a client ID.
     Component.onCompleted: explains = account.needsClientId
 

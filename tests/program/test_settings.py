@@ -13,7 +13,7 @@ from reader import Reader
 TITLE = "Quillmere Settings"
 DOC = Path(__file__).resolve().parent.parent.parent / "docs" / "settings.md"
 LOCAL = {"cloudFolder", "debugLogEnabled"}
-OTHER_FIELDS = {"Search settings", "Google OAuth client ID"}  # the second belongs to the account's box
+OTHER_FIELDS = {"Search settings"}
 ABSENT = {
     "Lock Screen", "Clipboard", "Camera Mirror", "Network Speed", "App Shortcuts", "Quick Notes", "Bookmarks",
     "Reminders",
