@@ -17,7 +17,7 @@ Column {
         height: box.height + 28
         radius: 10
         color: Theme.card
-        border.width: Theme.dark ? 0 : 0.5
+        border.width: Theme.cardEdge
         border.color: Theme.line
 
         Loader {
@@ -32,7 +32,10 @@ Column {
                 muted: Qt.binding(() => Theme.muted),
                 line: Qt.binding(() => Theme.groove),
                 ground: Qt.binding(() => Theme.background),
+                edge: Qt.binding(() => Theme.edge),
                 accent: Qt.binding(() => Theme.accent),
+                accentText: Qt.binding(() => Theme.accentText),
+                focusColor: Qt.binding(() => Theme.focus),
                 warning: Qt.binding(() => Theme.warning)
             })
         }

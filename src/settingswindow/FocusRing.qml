@@ -6,9 +6,9 @@ Rectangle {
     property Item control: parent
 
     anchors.fill: parent
-    anchors.margins: -3
+    anchors.margins: Theme.highContrast ? -5 : -3
     visible: control.visualFocus
     color: "transparent"
-    border.width: 2
-    border.color: Theme.accent
+    border.width: Theme.highContrast ? 3 : 2
+    border.color: Theme.focus
 }

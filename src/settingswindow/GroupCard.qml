@@ -40,7 +40,7 @@ Column {
         height: rows.height
         radius: 10
         color: Theme.card
-        border.width: Theme.dark ? 0 : 0.5
+        border.width: Theme.cardEdge
         border.color: Theme.line
 
         Column {

@@ -42,14 +42,14 @@ T.SpinBox {
         radius: 7
         color: Theme.background
         border.width: 1
-        border.color: Theme.groove
+        border.color: Theme.highContrast ? Theme.edge : Theme.groove
     }
     contentItem: TextInput {
         text: control.displayText
         font: control.font
         color: Theme.text
         selectionColor: Theme.accent
-        selectedTextColor: "white"
+        selectedTextColor: Theme.accentText
         selectByMouse: true
         verticalAlignment: TextInput.AlignVCenter
         clip: true
@@ -78,14 +78,14 @@ T.SpinBox {
         implicitWidth: 26
         implicitHeight: 24
         radius: 6
-        color: pressed ? Theme.groove : "transparent"
+        color: pressed ? Theme.pressed : "transparent"
 
         Text {
             anchors.centerIn: parent
             text: parent.mark
             font: Theme.font(15, Font.Normal)
             color: Theme.text
-            opacity: parent.usable ? 1 : 0.35
+            opacity: parent.usable ? 1 : Theme.highContrast ? 0 : 0.35
         }
     }
 

@@ -60,7 +60,7 @@ Flickable {
                 height: parent.height - 4
                 radius: 2.5
                 color: Theme.muted
-                opacity: bar.pressed ? 0.8 : bar.hovered || scroller.moving ? 0.6 : 0.3
+                opacity: Theme.highContrast ? 1 : bar.pressed ? 0.8 : bar.hovered || scroller.moving ? 0.6 : 0.3
             }
         }
     }

@@ -15,12 +15,15 @@ T.Button {
     background: Rectangle {
         radius: 7
         color: Theme.groove
+        border.width: Theme.edgeWidth
+        border.color: Theme.edge
 
         Rectangle {
             anchors.fill: parent
+            anchors.margins: Theme.edgeWidth
             radius: 7
             visible: control.down || control.hovered
-            color: control.down ? Theme.groove : Theme.hovered
+            color: control.down ? Theme.pressed : Theme.hovered
         }
     }
     contentItem: Item {

@@ -17,13 +17,22 @@ Item {
         anchors.margins: 3
         radius: 8
         color: Theme.accent
-        opacity: view.highlighted ? 0.16 : 0
+        opacity: view.highlighted && !Theme.highContrast ? 0.16 : 0
 
         Behavior on opacity {
             NumberAnimation {
                 duration: Theme.duration * 2
             }
         }
+    }
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: 3
+        radius: 8
+        color: "transparent"
+        border.width: 2
+        border.color: Theme.accent
+        visible: view.highlighted && Theme.highContrast
     }
     Column {
         id: texts
@@ -65,7 +74,7 @@ Item {
             text: view.row.warning
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
-            font: Theme.font(12, Font.Normal)
+            font: Theme.font(12, Theme.highContrast ? Font.Bold : Font.Normal)
             color: Theme.warning
             visible: text !== ""
             horizontalAlignment: Text.AlignLeft

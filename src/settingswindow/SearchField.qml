@@ -18,14 +18,16 @@ T.TextField {
     color: Theme.text
     placeholderText: qsTr("Search settings")
     selectionColor: Theme.accent
-    selectedTextColor: "white"
+    selectedTextColor: Theme.accentText
     selectByMouse: true
     Accessible.name: placeholderText
     Accessible.searchEdit: true
 
     background: Rectangle {
         radius: 7
-        color: Theme.line
+        color: Theme.highContrast ? Theme.background : Theme.line
+        border.width: Theme.edgeWidth
+        border.color: Theme.edge
 
         Glyph {
             anchors.left: parent.left

@@ -17,6 +17,8 @@ Rectangle {
     implicitHeight: 28
     radius: 7
     color: Theme.groove
+    border.width: Theme.edgeWidth
+    border.color: Theme.edge
     Accessible.role: Accessible.Grouping
     Accessible.name: row.title
     Accessible.description: row.explanation
@@ -64,7 +66,7 @@ Rectangle {
                 background: Rectangle {
                     radius: 6
                     color: segment.checked ? Theme.chosen : "transparent"
-                    border.width: segment.checked && !Theme.dark ? 0.5 : 0
+                    border.width: segment.checked && !Theme.dark && !Theme.highContrast ? 0.5 : 0
                     border.color: Qt.rgba(0, 0, 0, 0.14)
                 }
                 contentItem: Item {
@@ -75,7 +77,7 @@ Rectangle {
                         text: segment.text
                         textFormat: Text.PlainText
                         font: Theme.font(12, Font.Medium)
-                        color: Theme.text
+                        color: segment.checked ? Theme.chosenText : Theme.text
                     }
                 }
 

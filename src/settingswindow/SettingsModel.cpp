@@ -232,6 +232,11 @@ bool SettingsModel::isDark() const
     return isWindowDark(services_.platform.appearance);
 }
 
+bool SettingsModel::highContrast() const
+{
+    return services_.platform.appearance.highContrast();
+}
+
 bool SettingsModel::reducesMotion() const
 {
     return services_.platform.appearance.reducesMotion();

@@ -35,6 +35,7 @@ class SettingsModel : public QObject
     Q_PROPERTY(QVariantList results READ results NOTIFY queryChanged FINAL)
     Q_PROPERTY(quillmere::SettingsPreview *preview READ preview CONSTANT FINAL)
     Q_PROPERTY(bool dark READ isDark NOTIFY appearanceChanged FINAL)
+    Q_PROPERTY(bool highContrast READ highContrast NOTIFY appearanceChanged FINAL)
     Q_PROPERTY(bool reducedMotion READ reducesMotion NOTIFY appearanceChanged FINAL)
     Q_PROPERTY(QColor accent READ accent NOTIFY appearanceChanged FINAL)
     Q_PROPERTY(QObject *googleAccount READ googleAccount CONSTANT FINAL)
@@ -58,6 +59,7 @@ public:
     QVariantList results() const;
     SettingsPreview *preview() { return &preview_; }
     bool isDark() const;
+    bool highContrast() const;
     bool reducesMotion() const;
     QColor accent() const;
     QObject *googleAccount() const;

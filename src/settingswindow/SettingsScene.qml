@@ -23,6 +23,11 @@ FocusScope {
     }
     Binding {
         target: Theme
+        property: "highContrast"
+        value: scene.model.highContrast
+    }
+    Binding {
+        target: Theme
         property: "reducedMotion"
         value: scene.model.reducedMotion
     }

@@ -21,6 +21,13 @@ Rectangle {
 
     color: Theme.sidebar
 
+    Rectangle {
+        anchors.right: parent.right
+        width: 1
+        height: parent.height
+        visible: Theme.highContrast
+        color: Theme.line
+    }
     SearchField {
         id: field
 
@@ -42,7 +49,7 @@ Rectangle {
         anchors.bottom: parent.bottom
         x: 0
         width: parent.width
-        topMargin: 3
+        topMargin: 5
         bottomMargin: 10
         clip: true
         spacing: 0

@@ -27,12 +27,13 @@ Item {
     }
     Rectangle {
         anchors.fill: parent
-        anchors.margins: -2
-        radius: 9
+        // A gap tells it from the ground of the chosen row.
+        anchors.margins: -4
+        radius: 10
         visible: row.focused
         color: "transparent"
         border.width: 2
-        border.color: Theme.accent
+        border.color: Theme.focus
     }
     Rectangle {
         id: tile
@@ -66,7 +67,7 @@ Item {
             textFormat: Text.PlainText
             elide: Text.ElideRight
             font: Theme.font(13, Font.Normal)
-            color: row.chosen ? "white" : Theme.text
+            color: row.chosen ? Theme.accentText : Theme.text
             horizontalAlignment: Text.AlignLeft
             Accessible.ignored: true
         }
@@ -76,7 +77,7 @@ Item {
             textFormat: Text.PlainText
             elide: Text.ElideRight
             font: Theme.font(11, Font.Normal)
-            color: row.chosen ? "white" : Theme.muted
+            color: row.chosen ? Theme.accentText : Theme.muted
             visible: text !== ""
             horizontalAlignment: Text.AlignLeft
             Accessible.ignored: true

@@ -51,14 +51,14 @@ Row {
             width: slider.width
             height: 4
             radius: 2
-            color: Theme.groove
+            color: Theme.highContrast ? Theme.line : Theme.groove
 
             Rectangle {
                 x: slider.mirrored ? parent.width - width : 0
                 width: slider.position * parent.width
                 height: 4
                 radius: 2
-                color: Theme.accent
+                color: Theme.highContrast ? Theme.text : Theme.accent
             }
         }
         handle: Rectangle {
@@ -68,8 +68,8 @@ Row {
             height: 16
             radius: 8
             color: "white"
-            border.width: 0.5
-            border.color: Qt.rgba(0, 0, 0, 0.25)
+            border.width: Theme.highContrast ? 2 : 0.5
+            border.color: Theme.highContrast ? "black" : Qt.rgba(0, 0, 0, 0.25)
 
             FocusRing {
                 control: slider

@@ -24,7 +24,7 @@ T.TextField {
     font: Theme.font(13, Font.Normal)
     color: Theme.text
     selectionColor: Theme.accent
-    selectedTextColor: "white"
+    selectedTextColor: Theme.accentText
     selectByMouse: true
     Accessible.name: row.title
     Accessible.description: row.explanation
@@ -34,7 +34,7 @@ T.TextField {
         radius: 7
         color: Theme.background
         border.width: 1
-        border.color: Theme.groove
+        border.color: Theme.highContrast ? Theme.edge : Theme.groove
     }
 
     FocusRing {

@@ -45,7 +45,7 @@ Rectangle {
             Rectangle {
                 required property int index
 
-                width: 7
+                width: Look.highContrast && index === root.setup.step ? 18 : 7
                 height: 7
                 radius: 3.5
                 color: index === root.setup.step ? Look.accent : Look.off

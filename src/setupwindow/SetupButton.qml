@@ -26,8 +26,8 @@ Item {
         anchors.margins: -3
         radius: 10
         color: "transparent"
-        border.width: 2
-        border.color: Look.accent
+        border.width: Look.highContrast ? 3 : 2
+        border.color: Look.focus
         visible: button.activeFocus
     }
     Rectangle {

@@ -12,7 +12,13 @@ Item {
 
     signal toggled(bool on)
 
-    implicitHeight: 46
+    // A screen reader would press what is disabled, too.
+    function toggle() {
+        if (enabled)
+            toggled(!checked);
+    }
+
+    implicitHeight: Math.max(38, words.height + 14)
     activeFocusOnTab: true
 
     Accessible.role: Accessible.CheckBox
@@ -20,17 +26,17 @@ Item {
     Accessible.description: note
     Accessible.checkable: true
     Accessible.checked: checked
-    Accessible.onPressAction: toggled(!checked)
-    Accessible.onToggleAction: toggled(!checked)
-    Keys.onSpacePressed: toggled(!checked)
+    Accessible.onPressAction: toggle()
+    Accessible.onToggleAction: toggle()
+    Keys.onSpacePressed: toggle()
 
     Rectangle {
         anchors.fill: parent
-        anchors.margins: 3
+        anchors.margins: 1
         radius: 8
         color: "transparent"
         border.width: 2
-        border.color: Look.accent
+        border.color: Look.focus
         visible: control.activeFocus
     }
     IconTile {
@@ -42,6 +48,8 @@ Item {
         tint: control.tint
     }
     Column {
+        id: words
+
         anchors {
             left: tile.visible ? tile.right : parent.left
             leftMargin: tile.visible ? 10 : 14
@@ -59,7 +67,7 @@ Item {
             horizontalAlignment: Text.AlignLeft
             font.pixelSize: 13
             font.weight: control.note === "" ? Font.Normal : Font.Medium
-            color: Look.text
+            color: control.enabled ? Look.text : Look.quiet
         }
         Text {
             width: parent.width
@@ -79,11 +87,28 @@ Item {
         width: 34
         height: 20
         radius: 10
-        color: control.checked ? "#30c95a" : Look.off
-        border.width: Look.highContrast ? 1 : 0
+        opacity: control.enabled || Look.highContrast ? 1 : 0.5
+        color: Look.highContrast ? control.checked ? Look.text : Look.card : control.checked ? "#30c95a" : Look.off
+        border.width: Look.highContrast ? 1.5 : 0
         border.color: Look.line
 
+        // A stroke for on and a ring for off, beside the knob.
         Rectangle {
+            readonly property real middle: knob.atRight ? 10 : parent.width - 10
+
+            x: middle - width / 2
+            y: (parent.height - height) / 2
+            width: control.checked ? 2 : 8
+            height: 8
+            radius: control.checked ? 0 : 4
+            visible: Look.highContrast
+            color: control.checked ? Look.card : "transparent"
+            border.width: control.checked ? 0 : 1.5
+            border.color: Look.text
+        }
+        Rectangle {
+            id: knob
+
             readonly property bool atRight: control.checked !== control.LayoutMirroring.enabled
 
             x: atRight ? parent.width - width - 2 : 2
@@ -91,7 +116,7 @@ Item {
             width: 16
             height: 16
             radius: 8
-            color: "white"
+            color: !Look.highContrast ? "white" : control.checked ? Look.card : Look.text
 
             Behavior on x {
                 enabled: !Look.still
@@ -101,6 +126,6 @@ Item {
     }
     MouseArea {
         anchors.fill: parent
-        onClicked: control.toggled(!control.checked)
+        onClicked: control.toggle()
     }
 }

@@ -11,7 +11,10 @@ Item {
     property color muted: "#636368"
     property color line: Qt.rgba(0, 0, 0, 0.1)
     property color ground: "#f6f6f7"
+    property color edge: "transparent" // of what can be pressed or filled in
     property color accent: "#0071e3"
+    property color accentText: "white"
+    property color focusColor: accent
     property color warning: "#9a5200"
     property string family: Qt.application.font.family
     property real textSize: 13
@@ -78,6 +81,8 @@ Item {
             visible: !choice.plain
             radius: 7
             color: choice.prominent ? box.accent : box.line
+            border.width: box.edge.a > 0 ? 1 : 0
+            border.color: box.edge
             opacity: area.containsPress ? 0.7 : 1
         }
         Rectangle {
@@ -87,7 +92,7 @@ Item {
             radius: 9
             color: "transparent"
             border.width: 2
-            border.color: box.accent
+            border.color: box.focusColor
         }
         Words {
             id: label
@@ -95,8 +100,8 @@ Item {
             anchors.centerIn: parent
             wrapMode: Text.NoWrap
             text: choice.text
-            font.underline: choice.plain && area.containsMouse
-            color: choice.plain ? box.accent : choice.prominent ? "white" : box.ink
+            font.underline: choice.plain && (area.containsMouse || box.edge.a > 0)
+            color: choice.plain ? (box.edge.a > 0 ? box.ink : box.accent) : choice.prominent ? box.accentText : box.ink
         }
         MouseArea {
             id: area
@@ -226,7 +231,7 @@ Item {
                 radius: 7
                 color: box.ground
                 border.width: input.activeFocus ? 2 : 1
-                border.color: input.activeFocus ? box.accent : box.line
+                border.color: input.activeFocus ? box.focusColor : box.edge.a > 0 ? box.edge : box.line
 
                 TextInput {
                     id: input
@@ -243,7 +248,7 @@ Item {
                     font.pixelSize: box.textSize
                     color: box.ink
                     selectionColor: box.accent
-                    selectedTextColor: "white"
+                    selectedTextColor: box.accentText
                     text: box.account.clientId
                     Accessible.role: Accessible.EditableText
                     Accessible.name: qsTr("Google OAuth client ID")
@@ -258,6 +263,7 @@ Item {
                     elide: Text.ElideRight
                     wrapMode: Text.NoWrap
                     text: "123456789012-abcdef.apps.googleusercontent.com"
+                    font.italic: box.edge.a > 0 // its colour is that of what is typed
                     color: box.muted
                     Accessible.ignored: true
                 }
