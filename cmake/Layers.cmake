@@ -17,7 +17,7 @@ set(layer_messages   island log settings platform events)
 set(layer_google     island log settings platform events)
 set(layer_app        nowplaying weather messages google tools island monitors claude log settings platform events)
 set(layer_views      app weather messages google tools island claude log settings platform events)
-set(layer_setupwindow views app log settings platform events)
+set(layer_setupwindow views app claude log settings platform events)
 set(layer_settingswindow views app weather messages tools island claude log settings platform events)
 set(layer_linux      platform events)
 

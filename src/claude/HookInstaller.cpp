@@ -30,13 +30,13 @@ HookInstaller::HookInstaller(UserFiles &files, const RunLoop &runLoop, const QSt
 {
 }
 
-bool HookInstaller::findsAssistant() const
+bool findsAssistant(const UserFiles &files, const QString &home)
 {
-    const QString places[] = {home_ + u"/.local/bin/claude", home_ + u"/.claude/bin/claude",
+    const QString places[] = {home + u"/.local/bin/claude", home + u"/.claude/bin/claude",
                               QStringLiteral("/opt/homebrew/bin/claude"),
                               QStringLiteral("/usr/local/bin/claude")};
     return std::any_of(std::begin(places), std::end(places),
-                       [this](const QString &place) { return files_.exists(place); });
+                       [&files](const QString &place) { return files.exists(place); });
 }
 
 void HookInstaller::installScript()

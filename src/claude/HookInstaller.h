@@ -11,6 +11,9 @@ namespace quillmere {
 
 class RunLoop;
 
+/// Whether the assistant is where its installers put it. Waits for the disk. Any thread.
+bool findsAssistant(const UserFiles &files, const QString &home);
+
 /// Puts the hook script into the assistant's directory and its entries into the assistant's
 /// settings, and takes both out again. Nothing is registered while the script is missing, and the
 /// script stays while anything refers to it: a missing one would be an error at every event. What
@@ -22,7 +25,7 @@ public:
     HookInstaller(UserFiles &files, const RunLoop &runLoop, const QString &home,
                   const QString &socketPath);
 
-    bool findsAssistant() const;
+    bool findsAssistant() const { return quillmere::findsAssistant(files_, home_); }
     const QString &scriptPath() const { return scriptPath_; }
 
     void installScript();

@@ -1,5 +1,6 @@
 #include "settingswindow/PageNotes.h"
 
+#include "claude/HookInstaller.h"
 #include "platform/AudioHardware.h"
 #include "platform/BluetoothBatteries.h"
 #include "platform/DisplayBrightness.h"
@@ -154,10 +155,11 @@ void PageNotes::sound()
 void PageNotes::assistant()
 {
     SettingRow *found = row("assistant", QT_TRANSLATE_NOOP("Settings", "Claude Code"));
-    const auto look = [] {
-        if (!QDir::home().exists(QStringLiteral(".claude")))
+    const auto look = [&files = services_.platform.userFiles] {
+        if (!findsAssistant(files, QDir::homePath()))
             return translated(QT_TRANSLATE_NOOP(
-                "Settings", "It was not found: there is no folder .claude in your home folder."));
+                "Settings", "It was not found in ~/.local/bin, ~/.claude/bin or /usr/local/bin. If "
+                            "it is elsewhere, put a link to it there."));
         if (QStandardPaths::findExecutable(QStringLiteral("python3")).isEmpty())
             return translated(QT_TRANSLATE_NOOP(
                 "Settings", "Its hook needs Python. Install the package python3."));

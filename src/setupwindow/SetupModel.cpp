@@ -44,7 +44,7 @@ void SetupModel::setStep(int step)
         return;
     step_ = step;
     refreshing_.cancel();
-    if (step == Needs) {
+    if (step == Sources || step == Needs) {
         refreshNeeds();
         refreshing_ =
             platform_.runLoop.every(refreshInterval, refreshTolerance, [this] { refreshNeeds(); });

@@ -1,5 +1,6 @@
 #include "setupwindow/SetupNeeds.h"
 
+#include "claude/HookInstaller.h"
 #include "platform/AudioHardware.h"
 #include "platform/DisplayBrightness.h"
 #include "platform/LocationManager.h"
@@ -9,6 +10,8 @@
 #include "platform/UserDefaults.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
 
 namespace quillmere {
 
@@ -105,6 +108,16 @@ SetupNeed fileTrayNeed(const Platform & /*platform*/)
 SetupNeed timersNeed(const Platform & /*platform*/)
 {
     return {Needs::tr("Ready. They are on the last page of the dashboard.")};
+}
+
+SetupNeed assistantNeed(const UserFiles &files)
+{
+    if (!findsAssistant(files, QDir::homePath()))
+        return {Needs::tr("Not found in ~/.local/bin, ~/.claude/bin or /usr/local/bin."), Absent};
+    if (QStandardPaths::findExecutable(QStringLiteral("python3")).isEmpty())
+        return {Needs::tr("Its hook needs Python. Install python3."), Missing};
+    return {Needs::tr("Puts a hook into its settings. That tells Quillmere, and nobody else, the "
+                      "folder, the tool and how a prompt begins.")};
 }
 
 } // namespace quillmere

@@ -5,13 +5,15 @@
 namespace quillmere {
 
 struct Platform;
+class UserFiles;
 
 /// What a source needs on this machine, as one line for a person.
 struct SetupNeed {
     enum class State {
         Ready,
-        Open,   ///< nothing to do, and nothing to promise either
-        Missing ///< the user can mend it
+        Open,    ///< nothing to do, and nothing to promise either
+        Missing, ///< the user can mend it
+        Absent   ///< there is nothing here to be told of
     };
     QString text;
     State state = State::Ready;
@@ -28,5 +30,8 @@ SetupNeed messagesNeed(const Platform &platform);
 SetupNeed mailNeed(const Platform &platform);
 SetupNeed fileTrayNeed(const Platform &platform);
 SetupNeed timersNeed(const Platform &platform);
+
+/// Waits for the disk. Any thread.
+SetupNeed assistantNeed(const UserFiles &files);
 
 } // namespace quillmere

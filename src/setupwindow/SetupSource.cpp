@@ -1,5 +1,8 @@
 #include "setupwindow/SetupSource.h"
 
+#include "platform/PageSymbols.h"
+#include "platform/Platform.h"
+#include "platform/RunLoop.h"
 #include "platform/Symbols.h"
 #include "settings/SettingsStore.h"
 #include "weather/WeatherSymbols.h"
@@ -32,13 +35,14 @@ std::vector<SetupSourceInfo> setupSources()
          0x64'74'8b, keys("showFileTray"), fileTrayNeed},
         {QT_TRANSLATE_NOOP("quillmere::SetupSource", "Timers"), symbols::timer, 0xf0'6a'3a,
          keys("enablePomodoro", "enableCountdownTimer"), timersNeed},
+        {QT_TRANSLATE_NOOP("quillmere::SetupSource", "Claude Code"), symbols::pages::terminal,
+         0xd9'78'56, keys("enableClaudeCode"), nullptr, assistantNeed},
     };
 }
 
 SetupSource::SetupSource(const Platform &platform, SettingsStore &settings, SetupSourceInfo info)
     : platform_(platform)
     , info_(std::move(info))
-    , need_(info_.need(platform))
 {
     for (const QString &key : info_.keys)
         settings_.push_back(settings.registry().find(key));
@@ -47,6 +51,7 @@ SetupSource::SetupSource(const Platform &platform, SettingsStore &settings, Setu
         if (info_.keys.contains(key))
             readSettings();
     });
+    refreshNeed();
 }
 
 QString SetupSource::title() const
@@ -72,7 +77,15 @@ void SetupSource::readSettings()
 
 void SetupSource::refreshNeed()
 {
-    const SetupNeed need = info_.need(platform_);
+    if (!info_.needOnDisk)
+        return take(info_.need(platform_));
+    platform_.runLoop.background(
+        owner_, [look = info_.needOnDisk, &files = platform_.userFiles] { return look(files); },
+        [this](const SetupNeed &need) { take(need); });
+}
+
+void SetupSource::take(const SetupNeed &need)
+{
     if (need == need_)
         return;
     need_ = need;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Task.h"
+#include "platform/Owner.h"
 #include "setupwindow/SetupNeeds.h"
 
 #include <QColor>
@@ -21,6 +21,7 @@ struct SetupSourceInfo {
     QRgb color;
     QStringList keys; ///< the settings that one switch stands for
     SetupNeed (*need)(const Platform &platform);
+    SetupNeed (*needOnDisk)(const UserFiles &files) = nullptr; ///< instead, in the background
 };
 
 /// All of them, in the order in which they are offered.
@@ -34,6 +35,8 @@ class SetupSource : public QObject
     Q_PROPERTY(QString symbol READ symbol CONSTANT)
     Q_PROPERTY(QColor color READ color CONSTANT)
     Q_PROPERTY(bool isOn READ isOn WRITE setOn NOTIFY isOnChanged)
+    Q_PROPERTY(QString note READ note NOTIFY needChanged)
+    Q_PROPERTY(bool isAbsent READ isAbsent NOTIFY needChanged)
     Q_PROPERTY(QString need READ need NOTIFY needChanged)
     Q_PROPERTY(bool isReady READ isReady NOTIFY needChanged)
     Q_PROPERTY(bool isMissing READ isMissing NOTIFY needChanged)
@@ -46,9 +49,13 @@ public:
     QColor color() const { return QColor::fromRgb(info_.color); }
     bool isOn() const { return isOn_; }
     void setOn(bool on);
+    /// What has to be known before it is switched on; empty: nothing.
+    QString note() const { return info_.needOnDisk ? need_.text : QString(); }
     QString need() const { return need_.text; }
     bool isReady() const { return need_.state == SetupNeed::State::Ready; }
-    bool isMissing() const { return need_.state == SetupNeed::State::Missing; }
+    bool isMissing() const { return need_.state == SetupNeed::State::Missing || isAbsent(); }
+    /// There is no use in switching it on.
+    bool isAbsent() const { return need_.state == SetupNeed::State::Absent; }
 
     /// Looks again at what the machine has.
     void refreshNeed();
@@ -59,12 +66,14 @@ Q_SIGNALS:
 
 private:
     void readSettings();
+    void take(const SetupNeed &need);
 
     const Platform &platform_;
     const SetupSourceInfo info_;
     std::vector<Setting *> settings_;
     bool isOn_ = false;
-    SetupNeed need_;
+    SetupNeed need_{{}, SetupNeed::State::Absent}; ///< until it is known
+    Owner owner_;
 };
 
 } // namespace quillmere

@@ -8,17 +8,12 @@ StepPage {
     title: qsTr("What should it show?")
     text: qsTr("You can change all of this later in the settings.")
 
-    Panel {
-        anchors { left: parent.left; right: parent.right; top: parent.top }
-        height: grid.height + 8
+    ScrollPanel {
+        name: page.title
+        takesFocus: false
 
-        Grid {
-            id: grid
-
-            x: 4
-            y: 4
-            columns: 2
-            flow: Grid.LeftToRight
+        Flow {
+            width: parent.width
 
             Repeater {
                 model: page.setup.sources
@@ -26,8 +21,11 @@ StepPage {
                 SetupSwitch {
                     required property var modelData
 
-                    width: (page.width - 8) / 2
+                    // What has more to say has a line of its own.
+                    width: note === "" ? parent.width / 2 : parent.width
+                    enabled: modelData.isOn || !modelData.isAbsent
                     text: modelData.title
+                    note: modelData.note
                     symbol: modelData.symbol
                     tint: modelData.color
                     checked: modelData.isOn

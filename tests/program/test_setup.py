@@ -4,7 +4,8 @@ import json
 import unittest
 
 from accessibility import ScreenReader
-from case import DesktopTest
+from assistant import Assistant
+from case import BUILD, DesktopTest
 from desktop import wait_until
 
 TITLE = "Quillmere Setup"
@@ -68,6 +69,24 @@ class SetupTest(DesktopTest):
         self.assertEqual(self.island.stop(), 0)
         self.island.start()
         self.assertEqual(self.windows(), [])
+
+    def test_the_assistant_can_be_chosen_once_it_is_there(self):
+        assistant = Assistant(self.desktop, BUILD)
+        program = assistant.home / ".local/bin/claude"
+        program.rename(program.with_name("away"))
+        self.open()
+        self.press_keys("Return")
+        self.reader.press("check box", "Claude Code")
+        self.assertFalse(self.reader.is_checked("Claude Code"))
+        program.with_name("away").rename(program)
+
+        def choose():
+            self.reader.press("check box", "Claude Code")
+            return self.reader.is_checked("Claude Code")
+
+        wait_until(choose, what="it to be found", step=0.2)
+        wait_until(assistant.settings.exists, what="its hooks")
+        self.assertIn(str(assistant.hook), assistant.hooks()["Stop"][0])
 
     def test_is_left_at_any_time(self):
         endings = {
