@@ -105,6 +105,8 @@ Rectangle {
         visible: strip.preview.kind === "media"
         anchors.horizontalCenter: parent.horizontalCenter
         spacing: 40
+        scale: Math.min(1, (strip.width - 24) / width)
+        transformOrigin: Item.Top
 
         Silhouette {
             width: strip.preview.showsMedia ? 214 : 126

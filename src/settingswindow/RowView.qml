@@ -8,7 +8,7 @@ Item {
     required property SettingRow row
     property bool highlighted: false
     readonly property Item control: controlLoader.item
-    readonly property bool stacked: controlLoader.width > (width - 28) * 0.62
+    readonly property bool stacked: controlLoader.width > (width - 28) * 0.55
 
     implicitHeight: stacked ? texts.height + controlLoader.height + 27 : Math.max(46, texts.height + 18)
 

@@ -34,7 +34,7 @@ T.Switch {
         Rectangle {
             readonly property real travel: parent.width - width - 4
 
-            x: 2 + (control.mirrored ? 1 - control.visualPosition : control.visualPosition) * travel
+            x: 2 + control.visualPosition * travel
             y: 2
             width: 17
             height: 17

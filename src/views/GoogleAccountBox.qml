@@ -202,6 +202,7 @@ Item {
                     Words {
                         id: number
 
+                        anchors.left: parent.left
                         width: 20
                         text: (step.index + 1) + "."
                         color: box.muted
