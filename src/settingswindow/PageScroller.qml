@@ -17,6 +17,11 @@ Flickable {
             contentY = Math.min(contentHeight - height, top + item.height - height + 12);
     }
 
+    function scroll(pages: int) {
+        const lowest = Math.max(0, contentHeight - height);
+        contentY = Math.max(0, Math.min(lowest, contentY + pages * (height - 40)));
+    }
+
     contentWidth: width
     contentHeight: column.height + 36
     clip: true

@@ -8,6 +8,13 @@ FocusScope {
     required property SettingsModel model
     readonly property color background: Theme.background
 
+    Keys.onPressed: event => {
+        const pages = event.key === Qt.Key_PageDown ? 1 : event.key === Qt.Key_PageUp ? -1 : 0;
+        event.accepted = pages !== 0;
+        if (event.accepted)
+            page.scroll(pages);
+    }
+
     LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
@@ -18,13 +25,13 @@ FocusScope {
     }
     Binding {
         target: Theme
-        property: "accent"
-        value: scene.model.accent
+        property: "highContrast"
+        value: scene.model.highContrast
     }
     Binding {
         target: Theme
-        property: "highContrast"
-        value: scene.model.highContrast
+        property: "accent"
+        value: scene.model.accent
     }
     Binding {
         target: Theme

@@ -7,6 +7,7 @@ Rectangle {
 
     required property SettingsModel model
     readonly property bool searching: model.query.trim() !== ""
+    property int found: 0 // the result that Return opens
 
     function search() {
         field.forceActiveFocus(Qt.ShortcutFocusReason);
@@ -34,10 +35,13 @@ Rectangle {
         x: 10
         y: 14
         width: parent.width - 20
-        onTextChanged: sidebar.model.query = text
+        onTextChanged: {
+            sidebar.found = 0;
+            sidebar.model.query = text;
+        }
         onAccepted: {
             if (sidebar.searching && list.count > 0)
-                sidebar.model.reveal(sidebar.model.results[0]);
+                list.open(sidebar.found);
         }
         Keys.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
     }
@@ -58,25 +62,34 @@ Rectangle {
         keyNavigationEnabled: true
         highlightMoveDuration: 0
         model: sidebar.searching ? sidebar.model.results : sidebar.model.pages
-        currentIndex: sidebar.searching ? 0 : sidebar.model.page
+        currentIndex: sidebar.searching ? sidebar.found : sidebar.model.page
         Accessible.role: Accessible.List
         Accessible.name: sidebar.searching ? qsTr("Results") : qsTr("Pages")
         Keys.onReturnPressed: open(currentIndex)
+        Keys.onEnterPressed: open(currentIndex)
         Keys.onSpacePressed: open(currentIndex)
         Keys.onUpPressed: move(-1)
         Keys.onDownPressed: move(1)
+        Keys.onPressed: event => {
+            event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+            if (event.accepted)
+                select(event.key === Qt.Key_Home ? 0 : count - 1);
+        }
 
         function move(by: int) {
             const next = currentIndex + by;
             if (next < 0)
                 return field.forceActiveFocus(Qt.BacktabFocusReason);
-            if (next >= count)
-                return;
+            if (next < count)
+                select(next);
+        }
+
+        function select(index: int) {
             if (sidebar.searching)
-                currentIndex = next;
+                sidebar.found = index;
             else
-                sidebar.model.page = next;
-            positionViewAtIndex(next, ListView.Contain);
+                sidebar.model.page = index;
+            positionViewAtIndex(index, ListView.Contain);
         }
 
         function open(index: int) {
@@ -93,6 +106,7 @@ Rectangle {
             width: list.width - 20
             chosen: sidebar.searching ? false : index === sidebar.model.page
             focused: list.activeFocus && index === list.currentIndex
+            ready: sidebar.searching && field.activeFocus && index === sidebar.found
             onOpened: list.open(index)
         }
     }

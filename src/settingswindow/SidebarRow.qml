@@ -9,6 +9,7 @@ Item {
     required property var modelData
     property bool chosen: false
     property bool focused: false
+    property bool ready: false // Return in the search field opens it
 
     signal opened()
 
@@ -23,7 +24,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: 7
-        color: row.chosen ? Theme.accent : pointer.hovered ? Theme.hovered : "transparent"
+        color: row.chosen ? Theme.accent : pointer.hovered || row.ready ? Theme.hovered : "transparent"
     }
     Rectangle {
         anchors.fill: parent

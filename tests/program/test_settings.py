@@ -164,6 +164,10 @@ class SettingsTest(DesktopTest):
         wait_until(lambda: self.stored().get("weatherUseFahrenheit"), what="the switch")
         self.type("Escape")  # what was searched for
         wait_until(lambda: len(self.reader.pages(TITLE)) == 26, what="all pages")
+        self.type("ctrl+f", "s", "h", "Down", "Down", "ctrl+f", "Escape", "Tab", "Down")
+        wait_until(lambda: self.heading() == "File Tray", what="the page after the one that was open")
+        self.type("End")
+        wait_until(lambda: self.heading() == "About", what="the last page")
         self.type("Escape")
         wait_until(lambda: not self.windows(), what="the window to close")
 
