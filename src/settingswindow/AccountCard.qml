@@ -35,6 +35,7 @@ Column {
                 edge: Qt.binding(() => Theme.edge),
                 accent: Qt.binding(() => Theme.accent),
                 accentText: Qt.binding(() => Theme.accentText),
+                linkColor: Qt.binding(() => Theme.link),
                 focusColor: Qt.binding(() => Theme.focus),
                 warning: Qt.binding(() => Theme.warning)
             })

@@ -32,6 +32,13 @@ QtObject {
     readonly property real cardEdge: highContrast ? 1 : dark ? 0 : 0.5
 
     readonly property color focus: highContrast ? text : accent
+    readonly property color link: {
+        if (highContrast)
+            return text;
+        if (dark)
+            return Qt.lighter(accent, 1.5);
+        return Qt.colorEqual(accentText, "black") ? Qt.darker(accent, 2) : accent;
+    }
     readonly property color accentText: Ink.over(accent, highContrast)
 
     readonly property int duration: reducedMotion ? 0 : 120

@@ -14,6 +14,7 @@ Item {
     property color edge: "transparent" // of what can be pressed or filled in
     property color accent: "#0071e3"
     property color accentText: "white"
+    property color linkColor: accent
     property color focusColor: accent
     property color warning: "#9a5200"
     property string family: Qt.application.font.family
@@ -101,7 +102,7 @@ Item {
             wrapMode: Text.NoWrap
             text: choice.text
             font.underline: choice.plain && (area.containsMouse || box.edge.a > 0)
-            color: choice.plain ? (box.edge.a > 0 ? box.ink : box.accent) : choice.prominent ? box.accentText : box.ink
+            color: choice.plain ? box.linkColor : choice.prominent ? box.accentText : box.ink
         }
         MouseArea {
             id: area
