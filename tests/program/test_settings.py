@@ -8,11 +8,17 @@ from pathlib import Path
 
 from case import DesktopTest
 from desktop import wait_until
+from keyring import Keyring
+from players import ScriptedPlayer
 from reader import Reader
 
 TITLE = "Quillmere Settings"
 DOC = Path(__file__).resolve().parent.parent.parent / "docs" / "settings.md"
 LOCAL = {"cloudFolder", "debugLogEnabled"}
+NO_KEYRING = (
+    "No keyring was found, and the sign-in is kept nowhere else. Install the package gnome-keyring, or turn on the "
+    "secret service of KeePassXC or KWallet."
+)
 OTHER_FIELDS = {"Search settings"}
 ABSENT = {
     "Lock Screen", "Clipboard", "Camera Mirror", "Network Speed", "App Shortcuts", "Quick Notes", "Bookmarks",
@@ -152,6 +158,23 @@ class SettingsTest(DesktopTest):
             console.set_volume(42)
             self.island.wait_for_hud(0.42)
         self.assertEqual(self.stored()["volumeHUDDuration"], 400, "what is beyond a slider's end stays")
+
+    def wait_for_text(self, text):
+        wait_until(lambda: any(i["name"] == text for i in self.tree()), what=f"“{text}”")
+
+    def test_what_is_found_shows_as_it_comes_and_goes(self):
+        self.open_window()
+        self.open_page("Google")
+        self.wait_for_text(NO_KEYRING)
+        keyring = Keyring(self.desktop)
+        self.wait_for_text("GNOME Keyring. It is unlocked.")
+        keyring.lock()
+        self.wait_for_text("GNOME Keyring. It is locked, and will ask for its password when it is needed.")
+        self.open_page("Now Playing")
+        self.wait_for_text("No player is running.")
+        with ScriptedPlayer(self.desktop):
+            self.wait_for_text("scripted")
+        self.wait_for_text("No player is running.")
 
     def test_by_keyboard_alone(self):
         self.open_window()

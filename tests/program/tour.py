@@ -548,14 +548,15 @@ def visit_setup(album, build, look, scale, language=None):
                 raise SystemExit("\n".join(faults))
 
 
-def visit_settings(album, build, look, scale):
+def visit_settings(album, build, look, scale, contrast=False):
     """Every page of the settings window."""
     title = "Quillmere Settings"
     with contextlib.ExitStack() as stack:
         desktop = stack.enter_context(PrivateDesktop(scale, look))
         reader = Reader(desktop)
         stack.callback(reader.close)
-        Appearance(desktop, DARK if look == "dark" else LIGHT)
+        Appearance(desktop, DARK if look == "dark" else LIGHT, contrast)
+        suffix = f"{look}-{scale}x" + ("-contrast" if contrast else "")
         island = stack.enter_context(Island(desktop, build))
         island.ctl("action", "settings")
         search = ("xdotool", "search", "--onlyvisible", "--name", title)
@@ -567,7 +568,7 @@ def visit_settings(album, build, look, scale):
             if number:
                 reader.press(title, page, "list item")
             desktop.screen.until_still(area, quiet=0.3)
-            album.add(desktop.screen.grab(*area), f"settings-{page.lower().replace(' ', '-')}-{look}-{scale}x")
+            album.add(desktop.screen.grab(*area), f"settings-{page.lower().replace(' ', '-')}-{suffix}")
         if faults := island.faults():
             raise SystemExit("\n".join(faults))
 
@@ -582,6 +583,7 @@ def main():
     for look, scale in [("dark", 1), ("dark", 2), ("light", 1), ("light", 2)]:
         visit(album, build, look, scale)
         visit_settings(album, build, look, scale)
+    visit_settings(album, build, "light", 1, contrast=True)
     visit(album, build, "dark", 1, PipeWireDesktop)
     visit_google(album, build)
     for scale in (1, 2):
