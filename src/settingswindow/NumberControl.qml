@@ -28,7 +28,9 @@ T.SpinBox {
     font: Theme.font(13, Font.Normal)
     textFromValue: (value, locale) => row.display(value)
     valueFromText: (text, locale) => {
-        const digits = text.replace(/[^0-9]/g, "");
+        // In the digits of the user's language as well as in those of most keyboards.
+        const zeros = [48, Qt.locale().zeroDigit.charCodeAt(0)];
+        const digits = Array.from(text, letter => zeros.map(zero => letter.charCodeAt(0) - zero).find(digit => digit >= 0 && digit <= 9) ?? "").join("");
         return digits === "" ? from : Number(digits);
     }
     Accessible.name: row.title

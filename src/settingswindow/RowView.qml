@@ -98,6 +98,9 @@ Item {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             row: view.row
+            // Many choices with long names in a small window.
+            scale: Math.min(1, (view.width - 28) / width)
+            transformOrigin: LayoutMirroring.enabled ? Item.Left : Item.Right
         }
         Loader {
             id: button

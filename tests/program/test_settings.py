@@ -176,6 +176,15 @@ class SettingsTest(DesktopTest):
             self.wait_for_text("scripted")
         self.wait_for_text("No player is running.")
 
+    def test_figures_are_read_in_the_digits_they_are_written_in(self):
+        self.desktop.env |= {"LC_ALL": "", "LANG": "ar_EG.UTF-8"}
+        self.open_window()
+        self.open_page("Pomodoro")
+        self.reader.focus(TITLE, "Work", "spin button")
+        self.type("Tab", "ctrl+a", "1", "7", "Return")
+        wait_until(lambda: self.stored().get("pomodoroShortBreakMinutes") == 17, what="the typed figure")
+        self.assertNotIn("pomodoroWorkMinutes", self.stored(), "which was only passed")
+
     def test_by_keyboard_alone(self):
         self.open_window()
         self.type("ctrl+f")
