@@ -188,6 +188,11 @@ void PageNotes::showPlace(SettingRow &row)
         return;
     }
     row.setExplanation({});
+    if (service.currentAuthStatus() != AuthorizationStatus::AuthorizedAlways) {
+        // Also where it was refused: what has been allowed or installed since tells nobody.
+        row.setButtonTitle(translated(QT_TRANSLATE_NOOP("Settings", "Ask")));
+        row.onActivate = [&service] { service.requestPermission([](bool) {}); };
+    }
     switch (service.currentAuthStatus()) {
     case AuthorizationStatus::AuthorizedAlways:
         row.setExplanation(translated(QT_TRANSLATE_NOOP(
@@ -196,8 +201,6 @@ void PageNotes::showPlace(SettingRow &row)
     case AuthorizationStatus::NotDetermined:
         row.setExplanation(translated(QT_TRANSLATE_NOOP(
             "Settings", "Nobody was asked yet. You can also type a place on the island.")));
-        row.setButtonTitle(translated(QT_TRANSLATE_NOOP("Settings", "Ask")));
-        row.onActivate = [&service] { service.requestPermission([](bool) {}); };
         break;
     case AuthorizationStatus::Denied:
         row.setWarning(translated(QT_TRANSLATE_NOOP(
