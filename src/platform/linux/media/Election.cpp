@@ -5,15 +5,9 @@
 
 namespace quillmere {
 
-namespace {
-
 using namespace Qt::StringLiterals;
 
-/// Speaks for whichever player was active last.
-bool isProxy(const Candidate &player)
-{
-    return player.name.section(u'.', 0, 0) == "playerctld"_L1;
-}
+namespace {
 
 bool isBridge(const Candidate &player)
 {
@@ -25,7 +19,7 @@ bool isBridge(const Candidate &player)
 bool isSecondEntry(const Candidate &bridge, const std::vector<Candidate> &players)
 {
     return std::any_of(players.begin(), players.end(), [&bridge](const Candidate &other) {
-        if (isBridge(other) || isProxy(other))
+        if (isBridge(other) || isProxy(other.name))
             return false;
         const bool isProcess = bridge.browser && other.process == *bridge.browser;
         return isProcess || other.bundleIdentifier == bridge.bundleIdentifier;
@@ -54,12 +48,17 @@ auto weight(const Candidate &player)
 
 } // namespace
 
+bool isProxy(const QString &name)
+{
+    return name.section(u'.', 0, 0) == "playerctld"_L1;
+}
+
 std::optional<std::size_t> elect(const std::vector<Candidate> &players)
 {
     std::optional<std::size_t> best;
     for (std::size_t i = 0; i < players.size(); ++i) {
         const auto &player = players[i];
-        if (isProxy(player) || (isBridge(player) && isSecondEntry(player, players)))
+        if (isProxy(player.name) || (isBridge(player) && isSecondEntry(player, players)))
             continue;
         if (!best || weight(player) >= weight(players[*best]))
             best = i;

@@ -19,6 +19,10 @@ struct Candidate {
     std::optional<Instant> began{}; ///< to play, the last time
 };
 
+/// Whether the player of that name on the bus, without the common beginning, speaks for whichever
+/// player was active last.
+bool isProxy(const QString &name);
+
 /// Which of the players, in the order in which they came, is the one people mean: one with
 /// something to show before one without, one that plays before one that doesn't, and of those the
 /// one that began to play last. Proxies and second entries of the same browser are never elected.

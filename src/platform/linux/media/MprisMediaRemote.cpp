@@ -148,7 +148,8 @@ QStringList MprisMediaRemote::playerNames() const
 {
     QStringList names;
     for (const auto &player : players_)
-        names.append(player->name());
+        if (!isProxy(player->suffix()))
+            names.append(player->name());
     names.removeDuplicates();
     names.removeAll(QString());
     return names;
