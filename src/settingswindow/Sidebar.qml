@@ -89,7 +89,9 @@ Rectangle {
                 sidebar.found = index;
             else
                 sidebar.model.page = index;
-            positionViewAtIndex(index, ListView.Contain);
+            // Where it goes on is in sight as well.
+            for (const row of [index + 1, index - 1, index])
+                positionViewAtIndex(Math.max(0, Math.min(count - 1, row)), ListView.Contain);
         }
 
         function open(index: int) {
