@@ -4,12 +4,28 @@
 
 #include <qt6keychain/keychain.h>
 
-#include <memory>
 #include <utility>
 
 namespace quillmere {
 
 namespace {
+
+using namespace std::chrono_literals;
+
+constexpr Duration wakeUpLimit = 10s;
+
+/// What the library asks the wallet service of KDE first.
+QDBusMessage walletQuestion()
+{
+    return QDBusMessage::createMethodCall(
+        QStringLiteral("org.kde.kwalletd5"), QStringLiteral("/modules/kwalletd5"),
+        QStringLiteral("org.kde.KWallet"), QStringLiteral("networkWallet"));
+}
+
+bool isOnKde()
+{
+    return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(u"KDE");
+}
 
 KeychainError::Kind kindOf(QKeychain::Error error)
 {
@@ -43,9 +59,21 @@ Keychain::Secret secretOf(const QKeychain::ReadPasswordJob &job)
     return tl::unexpected(errorOf(job));
 }
 
+} // namespace
+
+SecretKeychain::SecretKeychain()
+    : isAwake_(!isOnKde())
+{
+}
+
+SecretKeychain::~SecretKeychain()
+{
+    qDeleteAll(waiting_);
+}
+
 /// The job ends itself.
 template <class Job>
-Task run(Job *job, const QString &account, std::function<void(const Job &)> done)
+Task SecretKeychain::run(Job *job, const QString &account, std::function<void(const Job &)> done)
 {
     job->setKey(account);
     const auto isWanted = std::make_shared<bool>(true);
@@ -57,11 +85,26 @@ Task run(Job *job, const QString &account, std::function<void(const Job &)> done
                 done(*job);
         },
         Qt::QueuedConnection);
-    job->start();
+    start(job);
     return Task([isWanted] { *isWanted = false; });
 }
 
-} // namespace
+/// On KDE the library's first job has the main thread wait for the wallet service, up to half a
+/// second while that starts, and then takes another keyring. Called by us first, it is there.
+void SecretKeychain::start(QKeychain::Job *job)
+{
+    if (isAwake_)
+        return job->start();
+    waiting_.append(job);
+    if (wakeUp_)
+        return;
+    wakeUp_ = std::make_unique<BusCalls>(QDBusConnection::sessionBus());
+    wakeUp_->call(walletQuestion(), wakeUpLimit, [this](const BusReply &) {
+        isAwake_ = true;
+        for (QKeychain::Job *waiting : std::exchange(waiting_, {}))
+            waiting->start();
+    });
+}
 
 Task SecretKeychain::read(const QString &service, const QString &account,
                           std::function<void(const Secret &)> done)

@@ -1,6 +1,15 @@
 #pragma once
 
 #include "platform/Keychain.h"
+#include "platform/linux/dbus/BusCalls.h"
+
+#include <QList>
+
+#include <memory>
+
+namespace QKeychain {
+class Job;
+}
 
 #include <QDBusConnection>
 
@@ -16,6 +25,9 @@ public:
     {
     }
 
+    SecretKeychain();
+    ~SecretKeychain() override;
+
     Task read(const QString &service, const QString &account,
               std::function<void(const Secret &)> done) override;
     Task write(const QString &service, const QString &account, const QString &secret,
@@ -25,6 +37,15 @@ public:
 
 private:
     QDBusConnection sessionBus_;
+
+private:
+    template <class Job>
+    Task run(Job *job, const QString &account, std::function<void(const Job &)> done);
+    void start(QKeychain::Job *job);
+
+    std::unique_ptr<BusCalls> wakeUp_; ///< there once the wallet service has been called
+    QList<QKeychain::Job *> waiting_;  ///< for its answer
+    bool isAwake_;
 };
 
 } // namespace quillmere
