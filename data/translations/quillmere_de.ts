@@ -964,10 +964,6 @@
         <translation>Browser-Tabs</translation>
     </message>
     <message>
-        <source>Chromium and its kin tell of their tabs only when they are started so: chromium --remote-debugging-port=0</source>
-        <translation>Chromium und Verwandte verraten ihre Tabs nur, wenn sie so gestartet werden: chromium --remote-debugging-port=0</translation>
-    </message>
-    <message>
         <source>No player plays anything.</source>
         <translation>Kein Player spielt etwas.</translation>
     </message>
@@ -1812,10 +1808,6 @@
         <translation>Kein verbundenes Gerät meldet seine Ladung.</translation>
     </message>
     <message>
-        <source>It was not found: there is no folder .claude in your home folder.</source>
-        <translation>Er wurde nicht gefunden: In Ihrem persönlichen Ordner gibt es keinen Ordner .claude.</translation>
-    </message>
-    <message>
         <source>Its hook needs Python. Install the package python3.</source>
         <translation>Sein Hook braucht Python. Installieren Sie das Paket python3.</translation>
     </message>
@@ -1878,6 +1870,76 @@
     <message>
         <source>Do Not Disturb is off in %1.</source>
         <translation>„Nicht stören“ ist in %1 ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>It was not found in ~/.local/bin, ~/.claude/bin or /usr/local/bin. If it is elsewhere, put a link to it there.</source>
+        <translation>In ~/.local/bin, ~/.claude/bin und /usr/local/bin wurde es nicht gefunden. Liegt es anderswo, legen Sie dort eine Verknüpfung darauf an.</translation>
+    </message>
+    <message>
+        <source>Quiet during events</source>
+        <translation>Ruhe während Terminen</translation>
+    </message>
+    <message>
+        <source>No messages, mail and weather while an event of your Google calendar is going on.</source>
+        <translation>Keine Nachrichten, E-Mails und kein Wetter, während ein Termin Ihres Google-Kalenders läuft.</translation>
+    </message>
+    <message>
+        <source>No weather on days without events</source>
+        <translation>Kein Wetter an Tagen ohne Termine</translation>
+    </message>
+    <message>
+        <source>The weather then stays on its page.</source>
+        <translation>Das Wetter bleibt dann auf seiner Seite.</translation>
+    </message>
+    <message>
+        <source>Your day</source>
+        <translation>Ihr Tag</translation>
+    </message>
+    <message>
+        <source>A keyring of this desktop</source>
+        <translation>Ein Schlüsselbund dieses Desktops</translation>
+    </message>
+    <message>
+        <source>%1. It starts when it is needed.</source>
+        <translation>%1. Er startet, wenn er gebraucht wird.</translation>
+    </message>
+    <message>
+        <source>%1. It keeps nothing yet and will ask for a password for that.</source>
+        <translation>%1. Er verwahrt noch nichts und wird dafür nach einem Passwort fragen.</translation>
+    </message>
+    <message>
+        <source>%1. It is locked, and will ask for its password when it is needed.</source>
+        <translation>%1. Er ist gesperrt und fragt nach seinem Passwort, wenn er gebraucht wird.</translation>
+    </message>
+    <message>
+        <source>%1. It is unlocked.</source>
+        <translation>%1. Er ist entsperrt.</translation>
+    </message>
+    <message>
+        <source>No keyring was found, and the sign-in is kept nowhere else. Install the package gnome-keyring, or turn on the secret service of KeePassXC or KWallet.</source>
+        <translation>Es wurde kein Schlüsselbund gefunden, und anderswo wird die Anmeldung nicht aufbewahrt. Installieren Sie das Paket gnome-keyring oder schalten Sie in KeePassXC oder KWallet den Dienst für Geheimnisse ein.</translation>
+    </message>
+    <message>
+        <source>Sign-in is kept in</source>
+        <translation>Die Anmeldung liegt in</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation>Schlüsselbund</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Chromium and its kin tell of their tabs only when they are started so:
+chromium --remote-debugging-port=0</source>
+        <translation>Chromium und seine Verwandten geben ihre Tabs nur preis, wenn sie so gestartet werden:
+chromium --remote-debugging-port=0</translation>
+    </message>
+    <message>
+        <source>No player is running.</source>
+        <translation>Es läuft kein Player.</translation>
     </message>
 </context>
 <context>
@@ -1984,6 +2046,18 @@
     <message>
         <source>Ready. They are on the last page of the dashboard.</source>
         <translation>Bereit. Zu finden auf der letzten Seite der Übersicht.</translation>
+    </message>
+    <message>
+        <source>Not found in ~/.local/bin, ~/.claude/bin or /usr/local/bin.</source>
+        <translation>Nicht gefunden in ~/.local/bin, ~/.claude/bin und /usr/local/bin.</translation>
+    </message>
+    <message>
+        <source>Its hook needs Python. Install python3.</source>
+        <translation>Sein Hook braucht Python. Installieren Sie python3.</translation>
+    </message>
+    <message>
+        <source>Puts a hook into its settings. That tells Quillmere, and nobody else, the folder, the tool and how a prompt begins.</source>
+        <translation>Trägt einen Hook in dessen Einstellungen ein. Er meldet nur Quillmere den Ordner, das Werkzeug und den Anfang einer Eingabe.</translation>
     </message>
 </context>
 <context>
@@ -2630,6 +2704,10 @@
     <message>
         <source>Timers</source>
         <translation>Timer</translation>
+    </message>
+    <message>
+        <source>Claude Code</source>
+        <translation>Claude Code</translation>
     </message>
 </context>
 <context>

@@ -963,10 +963,6 @@
         <translation>浏览器标签页</translation>
     </message>
     <message>
-        <source>Chromium and its kin tell of their tabs only when they are started so: chromium --remote-debugging-port=0</source>
-        <translation>Chromium 及同类浏览器只有这样启动才会告知标签页：chromium --remote-debugging-port=0</translation>
-    </message>
-    <message>
         <source>No player plays anything.</source>
         <translation>没有播放器在播放。</translation>
     </message>
@@ -1811,10 +1807,6 @@
         <translation>没有已连接的设备告知电量。</translation>
     </message>
     <message>
-        <source>It was not found: there is no folder .claude in your home folder.</source>
-        <translation>未找到：您的主目录中没有 .claude 文件夹。</translation>
-    </message>
-    <message>
         <source>Its hook needs Python. Install the package python3.</source>
         <translation>它的钩子需要 Python。请安装软件包 python3。</translation>
     </message>
@@ -1877,6 +1869,76 @@
     <message>
         <source>Do Not Disturb is off in %1.</source>
         <translation>%1 的勿扰模式已关闭。</translation>
+    </message>
+    <message>
+        <source>It was not found in ~/.local/bin, ~/.claude/bin or /usr/local/bin. If it is elsewhere, put a link to it there.</source>
+        <translation>在 ~/.local/bin、~/.claude/bin 和 /usr/local/bin 中都没有找到。如果它在别处，请在其中之一建立指向它的链接。</translation>
+    </message>
+    <message>
+        <source>Quiet during events</source>
+        <translation>日程进行时保持安静</translation>
+    </message>
+    <message>
+        <source>No messages, mail and weather while an event of your Google calendar is going on.</source>
+        <translation>您的 Google 日历中有日程进行时，不显示消息、邮件和天气。</translation>
+    </message>
+    <message>
+        <source>No weather on days without events</source>
+        <translation>没有日程的日子不显示天气</translation>
+    </message>
+    <message>
+        <source>The weather then stays on its page.</source>
+        <translation>此时天气只保留在它的页面上。</translation>
+    </message>
+    <message>
+        <source>Your day</source>
+        <translation>您的一天</translation>
+    </message>
+    <message>
+        <source>A keyring of this desktop</source>
+        <translation>此桌面的密钥环</translation>
+    </message>
+    <message>
+        <source>%1. It starts when it is needed.</source>
+        <translation>%1。需要时会自动启动。</translation>
+    </message>
+    <message>
+        <source>%1. It keeps nothing yet and will ask for a password for that.</source>
+        <translation>%1。其中尚无内容，保存时会要求设置密码。</translation>
+    </message>
+    <message>
+        <source>%1. It is locked, and will ask for its password when it is needed.</source>
+        <translation>%1。已锁定，需要时会询问密码。</translation>
+    </message>
+    <message>
+        <source>%1. It is unlocked.</source>
+        <translation>%1。已解锁。</translation>
+    </message>
+    <message>
+        <source>No keyring was found, and the sign-in is kept nowhere else. Install the package gnome-keyring, or turn on the secret service of KeePassXC or KWallet.</source>
+        <translation>没有找到密钥环，登录信息不会保存在其他地方。请安装软件包 gnome-keyring，或在 KeePassXC 或 KWallet 中启用密钥服务。</translation>
+    </message>
+    <message>
+        <source>Sign-in is kept in</source>
+        <translation>登录信息保存在</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation>密钥环</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>播放器</translation>
+    </message>
+    <message>
+        <source>Chromium and its kin tell of their tabs only when they are started so:
+chromium --remote-debugging-port=0</source>
+        <translation>Chromium 及同类浏览器只有这样启动时才会提供标签页信息：
+chromium --remote-debugging-port=0</translation>
+    </message>
+    <message>
+        <source>No player is running.</source>
+        <translation>没有正在运行的播放器。</translation>
     </message>
 </context>
 <context>
@@ -1983,6 +2045,18 @@
     <message>
         <source>Ready. They are on the last page of the dashboard.</source>
         <translation>就绪。它们在面板的最后一页。</translation>
+    </message>
+    <message>
+        <source>Not found in ~/.local/bin, ~/.claude/bin or /usr/local/bin.</source>
+        <translation>在 ~/.local/bin、~/.claude/bin 和 /usr/local/bin 中都没有找到。</translation>
+    </message>
+    <message>
+        <source>Its hook needs Python. Install python3.</source>
+        <translation>它的钩子需要 Python。请安装 python3。</translation>
+    </message>
+    <message>
+        <source>Puts a hook into its settings. That tells Quillmere, and nobody else, the folder, the tool and how a prompt begins.</source>
+        <translation>在其设置中加入钩子。钩子只向 Quillmere 报告文件夹、工具和提示词的开头。</translation>
     </message>
 </context>
 <context>
@@ -2629,6 +2703,10 @@
     <message>
         <source>Timers</source>
         <translation>计时器</translation>
+    </message>
+    <message>
+        <source>Claude Code</source>
+        <translation>Claude Code</translation>
     </message>
 </context>
 <context>
