@@ -4,6 +4,7 @@
 #include "support/Eventually.h"
 
 #include <QCoreApplication>
+#include <QDBusConnection>
 
 #include <gtest/gtest.h>
 
@@ -24,7 +25,7 @@ TEST(SecretKeychainTest, AWalletServiceThatStartsSlowlyIsTheKeyring)
     qputenv("XDG_CURRENT_DESKTOP", "KDE");
     qputenv("KDE_SESSION_VERSION", "5");
 
-    SecretKeychain keychain;
+    SecretKeychain keychain(QDBusConnection::sessionBus());
     QStringList answers;
     const auto answered = [&answers](const Keychain::Secret &secret) {
         answers.append(secret ? *secret : secret.error().text);
@@ -35,7 +36,7 @@ TEST(SecretKeychainTest, AWalletServiceThatStartsSlowlyIsTheKeyring)
     EXPECT_TRUE(eventually([&answers] { return answers.size() == 2; }));
     EXPECT_EQ(answers, (QStringList{u"service first"_s, u"service second"_s}));
 
-    SecretKeychain quitting;
+    SecretKeychain quitting(QDBusConnection::sessionBus());
     const Task read = quitting.read(u"service"_s, u"never asked for"_s, answered);
 }
 

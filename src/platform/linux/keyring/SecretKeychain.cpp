@@ -61,8 +61,9 @@ Keychain::Secret secretOf(const QKeychain::ReadPasswordJob &job)
 
 } // namespace
 
-SecretKeychain::SecretKeychain()
-    : isAwake_(!isOnKde())
+SecretKeychain::SecretKeychain(const QDBusConnection &sessionBus)
+    : sessionBus_(sessionBus)
+    , isAwake_(!isOnKde())
 {
 }
 
@@ -98,7 +99,7 @@ void SecretKeychain::start(QKeychain::Job *job)
     waiting_.append(job);
     if (wakeUp_)
         return;
-    wakeUp_ = std::make_unique<BusCalls>(QDBusConnection::sessionBus());
+    wakeUp_ = std::make_unique<BusCalls>(sessionBus_);
     wakeUp_->call(walletQuestion(), wakeUpLimit, [this](const BusReply &) {
         isAwake_ = true;
         for (QKeychain::Job *waiting : std::exchange(waiting_, {}))

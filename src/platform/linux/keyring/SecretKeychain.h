@@ -3,6 +3,7 @@
 #include "platform/Keychain.h"
 #include "platform/linux/dbus/BusCalls.h"
 
+#include <QDBusConnection>
 #include <QList>
 
 #include <memory>
@@ -11,8 +12,6 @@ namespace QKeychain {
 class Job;
 }
 
-#include <QDBusConnection>
-
 namespace quillmere {
 
 /// The keyring of the desktop, by QtKeychain; under its attributes a secret's service is "server"
@@ -20,13 +19,10 @@ namespace quillmere {
 class SecretKeychain : public Keychain
 {
 public:
-    explicit SecretKeychain(const QDBusConnection &sessionBus)
-        : sessionBus_(sessionBus)
-    {
-    }
-
-    SecretKeychain();
+    explicit SecretKeychain(const QDBusConnection &sessionBus);
     ~SecretKeychain() override;
+    SecretKeychain(const SecretKeychain &) = delete;
+    SecretKeychain &operator=(const SecretKeychain &) = delete;
 
     Task read(const QString &service, const QString &account,
               std::function<void(const Secret &)> done) override;
@@ -36,13 +32,11 @@ public:
     Task watchKeyring(std::function<void(const KeyringStatus &)> listener) override;
 
 private:
-    QDBusConnection sessionBus_;
-
-private:
     template <class Job>
     Task run(Job *job, const QString &account, std::function<void(const Job &)> done);
     void start(QKeychain::Job *job);
 
+    QDBusConnection sessionBus_;
     std::unique_ptr<BusCalls> wakeUp_; ///< there once the wallet service has been called
     QList<QKeychain::Job *> waiting_;  ///< for its answer
     bool isAwake_;
