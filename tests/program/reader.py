@@ -1,4 +1,4 @@
-"""A screen reader's view of the programs on a private desktop, and a hand to use them by it.
+"""A screen reader's view of a window on a private desktop, and a hand to use it by.
 
 The library that speaks to the accessibility bus keeps one connection for the life of its process, and
 every private desktop has a bus of its own: so it runs in a process per desktop, which answers one line
@@ -14,9 +14,10 @@ LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 
 
 class Reader:
-    """Start it before the program that is to be read."""
+    """Of the window of this title. Start it before the program that is to be read."""
 
-    def __init__(self, desktop):
+    def __init__(self, desktop, window):
+        self.window = window
         desktop.hardware_env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         desktop.spawn([LAUNCHER, "--launch-immediately"], "accessibility.log")
         self._process = desktop.spawn(
@@ -29,30 +30,38 @@ class Reader:
         self._process.wait(10)
         self._process.stdout.close()
 
-    def ask(self, verb, *arguments):
-        self._process.stdin.write(json.dumps([verb, *arguments]) + "\n")
+    def _ask(self, verb, *arguments):
+        self._process.stdin.write(json.dumps([verb, self.window, *arguments]) + "\n")
         self._process.stdin.flush()
         answer = json.loads(self._process.stdout.readline())
         if "error" in answer:
             raise AssertionError(answer["error"])
         return answer["result"]
 
-    def tree(self, window):
+    def tree(self):
         """Everything in the window, from top to bottom: role, name, description, states, value."""
-        return self.ask("tree", window)
+        return self._ask("tree")
 
-    def pages(self, window):
+    def shown(self, role):
+        """The names of what can be seen now."""
+        return [item["name"] for item in self.tree() if item["role"] == role and "showing" in item["states"]]
+
+    def pages(self):
         """Of the list in the window, if it is there."""
-        return [item["name"] for item in self.tree(window) if item["role"] == "list item"]
+        return [item["name"] for item in self.tree() if item["role"] == "list item"]
 
-    def press(self, window, name, role=None, description=None):
-        self.ask("press", window, name, role, description)
+    def has(self, state, name, role):
+        items = [item for item in self.tree() if (item["name"], item["role"]) == (name, role)]
+        return any(state in item["states"] for item in items)
 
-    def set_value(self, window, name, value):
-        self.ask("set_value", window, name, value)
+    def press(self, name, role=None, description=None):
+        self._ask("press", name, role, description)
 
-    def focus(self, window, name, role=None):
-        self.ask("focus", window, name, role)
+    def set_value(self, name, value):
+        self._ask("set_value", name, value)
+
+    def focus(self, name, role=None):
+        self._ask("focus", name, role)
 
 
 # -- the process of its own ---------------------------------------------------------------------

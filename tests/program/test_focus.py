@@ -28,7 +28,7 @@ class GnomeTest(FocusTest):
     def test_its_switch_is_shown_and_holds_back(self):
         self.desktop.env["XDG_CURRENT_DESKTOP"] = "GNOME"
         self.desktop.spawn(["/usr/libexec/dconf-service"], "dconf.log")
-        reader = Reader(self.desktop)
+        reader = Reader(self.desktop, WINDOW)
         self.addCleanup(reader.close)
         self.set_banners("false")  # before the start: no news
         self.start()
@@ -43,12 +43,12 @@ class GnomeTest(FocusTest):
         self.island.wait_for_hud(0.6)
 
         self.island.ctl("action", "settings")
-        wait_until(lambda: reader.pages(WINDOW), what="the window")
-        reader.press(WINDOW, "Focus", "list item")
+        wait_until(lambda: reader.pages(), what="the window")
+        reader.press("Focus", "list item")
         for state, shown in ("off", "true"), ("on", "false"):
             self.set_banners(shown)
             told = f"Do Not Disturb is {state} in GNOME."
-            wait_until(lambda text=told: text in str(reader.tree(WINDOW)), what=told)
+            wait_until(lambda text=told: text in str(reader.tree()), what=told)
 
 
 class SwayTest(FocusTest):

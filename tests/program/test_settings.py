@@ -37,7 +37,7 @@ def documented():
 class SettingsTest(DesktopTest):
     def setUp(self):
         super().setUp()
-        self.reader = Reader(self.desktop)
+        self.reader = Reader(self.desktop, TITLE)
         self.addCleanup(self.reader.close)
 
     def open_window(self, defaults=None):
@@ -54,7 +54,7 @@ class SettingsTest(DesktopTest):
         return self.desktop.run("xdotool", "search", "--onlyvisible", "--name", TITLE, check=False).split()
 
     def tree(self):
-        return self.reader.tree(TITLE)
+        return self.reader.tree()
 
     def item(self, name, role=None):
         found = [i for i in self.tree() if i["name"] == name and role in (None, i["role"])]
@@ -62,7 +62,7 @@ class SettingsTest(DesktopTest):
         return found[0]
 
     def open_page(self, name):
-        self.reader.press(TITLE, name, "list item")
+        self.reader.press(name, "list item")
         return wait_until(lambda: self.heading() == name and self.tree(), what=f"the page {name}")
 
     def heading(self):
@@ -82,16 +82,16 @@ class SettingsTest(DesktopTest):
         """Moves a control away from where it is; returns whether it was one."""
         role, name = item["role"], item["name"]
         if role in ("check box", "toggle button", "switch"):
-            self.reader.press(TITLE, name, role)
+            self.reader.press(name, role)
         elif role == "radio button":
             if "checked" in item["states"]:
                 return False
-            self.reader.press(TITLE, name, role, item["description"])
+            self.reader.press(name, role, item["description"])
         elif role in ("slider", "spin button"):
             low, high = item["range"]
-            self.reader.set_value(TITLE, name, low if item["value"] == high else high)
+            self.reader.set_value(name, low if item["value"] == high else high)
         elif role in ("text", "entry") and "editable" in item["states"] and name not in OTHER_FIELDS:
-            self.reader.focus(TITLE, name, role)
+            self.reader.focus(name, role)
             self.desktop.run("xdotool", "type", "abc")
             self.type("Return")
         else:
@@ -112,7 +112,7 @@ class SettingsTest(DesktopTest):
 
     def test_every_control_changes_its_key_and_only_that(self):
         self.open_window()
-        pages = self.reader.pages(TITLE)
+        pages = self.reader.pages()
         self.assertEqual(len(pages), 26)
         changed = set()
         for page in pages:
@@ -138,7 +138,7 @@ class SettingsTest(DesktopTest):
         self.open_window({"showBatteryHUD": False, "lowBatteryThreshold": 33.0, "showVolumeHUD": False})
         self.open_page("Battery")
         self.assertEqual(self.item("Limit", "slider")["value"], 33)
-        self.reader.press(TITLE, "Reset this page", "push button")
+        self.reader.press("Reset this page", "push button")
         wait_until(lambda: self.item("Limit", "slider")["value"] == 10, what="the slider to go back")
         wait_until(lambda: self.stored().get("showBatteryHUD") is True, what="the file")
         self.assertIs(self.stored()["showVolumeHUD"], False, "of another page")
@@ -147,7 +147,7 @@ class SettingsTest(DesktopTest):
         self.open_window()
         self.island.wait_out_mute()
         self.open_page("Sound")
-        self.reader.press(TITLE, "Show the volume", None)
+        self.reader.press("Show the volume", None)
         wait_until(lambda: self.stored().get("showVolumeHUD") is False, what="the file")
         with self.desktop.sound_console() as console:
             console.set_volume(31)
@@ -180,7 +180,7 @@ class SettingsTest(DesktopTest):
         self.desktop.env |= {"LC_ALL": "", "LANG": "ar_EG.UTF-8"}
         self.open_window()
         self.open_page("Pomodoro")
-        self.reader.focus(TITLE, "Work", "spin button")
+        self.reader.focus("Work", "spin button")
         self.type("Tab", "ctrl+a", "1", "7", "Return")
         wait_until(lambda: self.stored().get("pomodoroShortBreakMinutes") == 17, what="the typed figure")
         self.assertNotIn("pomodoroWorkMinutes", self.stored(), "which was only passed")
@@ -189,13 +189,13 @@ class SettingsTest(DesktopTest):
         self.open_window()
         self.type("ctrl+f")
         self.desktop.run("xdotool", "type", "fahrenheit")
-        wait_until(lambda: len(self.reader.pages(TITLE)) == 1, what="one result")
+        wait_until(lambda: len(self.reader.pages()) == 1, what="one result")
         self.type("Return")
         wait_until(lambda: self.heading() == "Weather", what="the page")
         self.type("space")
         wait_until(lambda: self.stored().get("weatherUseFahrenheit"), what="the switch")
         self.type("Escape")  # what was searched for
-        wait_until(lambda: len(self.reader.pages(TITLE)) == 26, what="all pages")
+        wait_until(lambda: len(self.reader.pages()) == 26, what="all pages")
         self.type("ctrl+f", "s", "h", "Down", "Down", "ctrl+f", "Escape", "Tab", "Down")
         wait_until(lambda: self.heading() == "File Tray", what="the page after the one that was open")
         self.type("End")

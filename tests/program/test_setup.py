@@ -3,10 +3,10 @@
 import json
 import unittest
 
-from accessibility import ScreenReader
 from assistant import Assistant
 from case import BUILD, DesktopTest
 from desktop import wait_until
+from reader import Reader
 
 TITLE = "Quillmere Setup"
 
@@ -14,7 +14,7 @@ TITLE = "Quillmere Setup"
 class SetupTest(DesktopTest):
     def setUp(self):
         super().setUp()
-        self.reader = ScreenReader(self.desktop)
+        self.reader = Reader(self.desktop, TITLE)
         self.addCleanup(self.reader.close)
 
     def windows(self):
@@ -23,7 +23,7 @@ class SetupTest(DesktopTest):
     def open(self):
         self.island = self.start_island(first_run=True)
         wait_until(self.windows, what="the setup window")
-        self.reader.wait_for_focus("push button", "Continue")
+        wait_until(lambda: self.reader.has("focused", "Continue", "push button"), what="the focus")
 
     def press_keys(self, *keys):
         self.desktop.run("xdotool", "key", "--delay", "60", *keys)
@@ -44,26 +44,26 @@ class SetupTest(DesktopTest):
         self.assertEqual(self.island.get("Presentation"), "collapsed")  # the island is there as well
 
         self.press_keys("Return")
-        self.reader.wait_for("check box", "Mail")
-        self.assertTrue(self.reader.is_checked("Volume"))
-        self.assertFalse(self.reader.is_checked("Slack and Discord"))
-        self.reader.press("check box", "Slack and Discord")
-        self.reader.press("check box", "Volume")
+        wait_until(lambda: "Mail" in self.reader.shown("check box"), what="Mail")
+        self.assertTrue(self.reader.has("checked", "Volume", "check box"))
+        self.assertFalse(self.reader.has("checked", "Slack and Discord", "check box"))
+        self.reader.press("Slack and Discord", "check box")
+        self.reader.press("Volume", "check box")
         wait_until(
             lambda: [self.stored().get(key) for key in ("showSlackHUD", "showDiscordHUD", "showVolumeHUD")]
             == [True, True, False],
             what="the choices in the file",
         )
 
-        self.reader.press("push button", "Continue")
-        self.reader.wait_for("list item", "Slack and Discord")
-        self.assertNotIn("Volume", self.reader.names("list item"))
+        self.reader.press("Continue", "push button")
+        wait_until(lambda: "Slack and Discord" in self.reader.shown("list item"), what="Slack and Discord")
+        self.assertNotIn("Volume", self.reader.shown("list item"))
 
-        self.reader.press("push button", "Continue")
-        self.reader.press("check box", "Start at login")
+        self.reader.press("Continue", "push button")
+        self.reader.press("Start at login", "check box")
         entry = self.desktop.dir / "config" / "autostart" / "com.quillmere.Quillmere.desktop"
         wait_until(entry.exists, what="the autostart entry")
-        self.reader.press("push button", "Done")
+        self.reader.press("Done", "push button")
         self.wait_until_gone()
 
         self.assertEqual(self.island.stop(), 0)
@@ -76,13 +76,13 @@ class SetupTest(DesktopTest):
         program.rename(program.with_name("away"))
         self.open()
         self.press_keys("Return")
-        self.reader.press("check box", "Claude Code")
-        self.assertFalse(self.reader.is_checked("Claude Code"))
+        self.reader.press("Claude Code", "check box")
+        self.assertFalse(self.reader.has("checked", "Claude Code", "check box"))
         program.with_name("away").rename(program)
 
         def choose():
-            self.reader.press("check box", "Claude Code")
-            return self.reader.is_checked("Claude Code")
+            self.reader.press("Claude Code", "check box")
+            return self.reader.has("checked", "Claude Code", "check box")
 
         wait_until(choose, what="it to be found", step=0.2)
         wait_until(assistant.settings.exists, what="its hooks")
@@ -91,7 +91,7 @@ class SetupTest(DesktopTest):
     def test_is_left_at_any_time(self):
         endings = {
             "Escape": lambda: self.press_keys("Escape"),
-            "Skip": lambda: self.reader.press("push button", "Skip"),
+            "Skip": lambda: self.reader.press("Skip", "push button"),
             "closed": lambda: self.press_keys("alt+F4"),
         }
         for name, end in endings.items():

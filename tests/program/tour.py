@@ -553,7 +553,7 @@ def visit_settings(album, build, look, scale, contrast=False):
     title = "Quillmere Settings"
     with contextlib.ExitStack() as stack:
         desktop = stack.enter_context(PrivateDesktop(scale, look))
-        reader = Reader(desktop)
+        reader = Reader(desktop, title)
         stack.callback(reader.close)
         Appearance(desktop, DARK if look == "dark" else LIGHT, contrast)
         suffix = f"{look}-{scale}x" + ("-contrast" if contrast else "")
@@ -561,12 +561,12 @@ def visit_settings(album, build, look, scale, contrast=False):
         island.ctl("action", "settings")
         search = ("xdotool", "search", "--onlyvisible", "--name", title)
         window = wait_until(lambda: desktop.run(*search, check=False).strip(), what="the settings window")
-        wait_until(lambda: reader.pages(title), what="its pages")
+        wait_until(lambda: reader.pages(), what="its pages")
         facts = desktop.run("xwininfo", "-id", window)
         area = [int(re.search(fact + r":\s+(\d+)", facts).group(1)) for fact in ("left X", "left Y", "Width", "Height")]
-        for number, page in enumerate(reader.pages(title)):
+        for number, page in enumerate(reader.pages()):
             if number:
-                reader.press(title, page, "list item")
+                reader.press(page, "list item")
             desktop.screen.until_still(area, quiet=0.3)
             album.add(desktop.screen.grab(*area), f"settings-{page.lower().replace(' ', '-')}-{suffix}")
         if faults := island.faults():
