@@ -87,7 +87,9 @@ Item {
         width: 34
         height: 20
         radius: 10
-        opacity: control.enabled || Look.highContrast ? 1 : 0.5
+        // Paler where it cannot be used; that is no contrast, so there it is left out.
+        visible: control.enabled || !Look.highContrast
+        opacity: control.enabled ? 1 : 0.5
         color: Look.highContrast ? control.checked ? Look.text : Look.card : control.checked ? "#30c95a" : Look.off
         border.width: Look.highContrast ? 1.5 : 0
         border.color: Look.line
