@@ -1934,7 +1934,7 @@
     <message>
         <source>Chromium and its kin tell of their tabs only when they are started so:
 chromium --remote-debugging-port=0</source>
-        <translation>Chromium und seine Verwandten geben ihre Tabs nur preis, wenn sie so gestartet werden:
+        <translation>Chromium und seine Verwandten verraten ihre Tabs nur, wenn sie so gestartet werden:
 chromium --remote-debugging-port=0</translation>
     </message>
     <message>
@@ -2057,7 +2057,7 @@ chromium --remote-debugging-port=0</translation>
     </message>
     <message>
         <source>Puts a hook into its settings. That tells Quillmere, and nobody else, the folder, the tool and how a prompt begins.</source>
-        <translation>Trägt einen Hook in dessen Einstellungen ein. Er meldet nur Quillmere den Ordner, das Werkzeug und den Anfang einer Eingabe.</translation>
+        <translation>Ein Hook in dessen Einstellungen meldet nur Quillmere den Ordner, das Werkzeug und den Anfang einer Eingabe.</translation>
     </message>
 </context>
 <context>
