@@ -30,6 +30,10 @@ QLatin1StringView outputSymbol(AudioFormFactor formFactor, bool isAirPods)
 
 bool isAirPodsName(const QString &name)
 {
+    // True of every match, whatever the language; most names need none of its rules, which are
+    // large to load.
+    if (!name.contains(QLatin1StringView("pods"), Qt::CaseInsensitive))
+        return false;
     const QLocale locale;
     const QString lower = locale.toLower(name);
     const QStringList spellings{QStringLiteral("AirPods"), QStringLiteral("Air Pods")};

@@ -226,6 +226,7 @@ QByteArray Glyphs::source(const QString &symbol)
         return {};
     QFile file(filePath(icon));
     QByteArray svg = file.open(QIODevice::ReadOnly) ? file.read(largestIcon) : QByteArray();
+    svg.squeeze(); // it has room for the largest icon there may be
     sources_.insert(symbol, svg);
     return svg;
 }
