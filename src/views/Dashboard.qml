@@ -154,6 +154,7 @@ FocusScope {
 
     Loader {
         anchors.fill: stage
+        opacity: 0
         active: dashboard.model.pickerOpen || opacity > 0
         visible: opacity > 0
         enabled: dashboard.model.pickerOpen
@@ -193,6 +194,7 @@ FocusScope {
             width: 300
             height: 28
             anchors.centerIn: parent
+            opacity: 0
             active: dashboard.model.showsLevel || opacity > 0
             visible: opacity > 0
 

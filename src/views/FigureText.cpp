@@ -52,8 +52,13 @@ void FigureText::setColor(const QColor &color)
 
 void FigureText::layOut()
 {
-    const QFontMetricsF metrics(font_);
     cells_.clear();
+    if (text_.isEmpty()) { // before there is any text, no font needs to be loaded
+        setImplicitSize(0, 0);
+        update();
+        return;
+    }
+    const QFontMetricsF metrics(font_);
     double x = 0;
     const auto append = [&](const QString &text, double width) {
         cells_.append({text, x + (width - metrics.horizontalAdvance(text)) / 2});

@@ -111,6 +111,7 @@ Item {
                 width: 600
                 height: 220
                 anchors.horizontalCenter: parent.horizontalCenter
+                opacity: 0
                 active: scene.island.expanded || opacity > 0
                 visible: opacity > 0
                 focus: true
@@ -124,11 +125,12 @@ Item {
                     fallDuration: 80
                 }
 
-                sourceComponent: Dashboard {
-                    model: scene.dashboard
-                    motion: scene.motion
-                    live: scene.live
-                }
+                // By its address: named as a type, it would be loaded with all its pages along with the island.
+                Component.onCompleted: setSource("Dashboard.qml", {
+                    model: scene.dashboard,
+                    motion: Qt.binding(() => scene.motion),
+                    live: Qt.binding(() => scene.live)
+                })
             }
         }
     }

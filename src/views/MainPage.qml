@@ -30,6 +30,7 @@ Item {
     component Panel: Loader {
         property bool shown
 
+        opacity: 0
         active: shown || opacity > 0
         visible: opacity > 0
         enabled: shown

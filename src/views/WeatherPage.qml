@@ -13,6 +13,7 @@ Item {
         property bool shown
 
         anchors.fill: parent
+        opacity: 0
         active: shown || opacity > 0
         visible: opacity > 0
         enabled: shown
