@@ -6,6 +6,7 @@ target_compile_definitions(quillmere_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
   QT_NO_FOREACH QT_USE_QSTRINGBUILDER
   QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_link_options(quillmere_options INTERFACE -Wl,--gc-sections -Wl,-O1 -Wl,--as-needed -Wl,-z,pack-relative-relocs)
 if(QUILLMERE_FUZZ)
   set(QUILLMERE_SANITIZE ON)
   target_compile_options(quillmere_options INTERFACE -fsanitize=fuzzer-no-link
@@ -15,4 +16,12 @@ if(QUILLMERE_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_compile_options(quillmere_options INTERFACE ${sanitizers})
   target_link_options(quillmere_options INTERFACE ${sanitizers})
+endif()
+
+# What the program itself is compiled with: it waits most of the day, and what counts of its code is
+# the memory, not the cycles.
+add_library(quillmere_compact INTERFACE)
+if(NOT QUILLMERE_SANITIZE)
+  target_compile_options(quillmere_compact INTERFACE
+    -Os -ffunction-sections -fdata-sections -fvisibility=hidden -fvisibility-inlines-hidden)
 endif()
