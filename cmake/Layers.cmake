@@ -63,7 +63,10 @@ function(quillmere_library target)
   endforeach()
 
   add_library(${target} STATIC ${arg_SOURCES} ${arg_HEADERS})
-  set_target_properties(${target} PROPERTIES QUILLMERE_LAYER ${arg_LAYER} LINKER_LANGUAGE CXX)
+  # Bindings as machine code take half a megabyte, and no frame comes sooner by them: most wait for
+  # what they are told.
+  set_target_properties(${target} PROPERTIES QUILLMERE_LAYER ${arg_LAYER} LINKER_LANGUAGE CXX
+    QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
   set(root ${PROJECT_BINARY_DIR}/include/${target})
   file(REMOVE_RECURSE ${root})
   foreach(header IN LISTS arg_HEADERS)
