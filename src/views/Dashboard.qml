@@ -13,7 +13,7 @@ FocusScope {
 
     focus: true
     Window.onActiveChanged: {
-        if (!Window.active)
+        if (!Window.active && model) // taken down, it loses its model before its window
             model.keyboardLeft();
     }
     Keys.onEscapePressed: model.pickerOpen ? model.closePicker() : model.close()

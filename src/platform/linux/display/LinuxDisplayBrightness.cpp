@@ -18,7 +18,7 @@ constexpr Duration displaySettleTime = 3s;
 bool hasUsableDisplayBus(const QString &devicesRoot)
 {
     const QDir devices(devicesRoot);
-    // Asked for by a pattern, the names would be the one thing at start that compiles an expression.
+    // A pattern would be the one regular expression that is compiled at start.
     const auto names = devices.entryList(QDir::System | QDir::Files);
     return std::any_of(names.begin(), names.end(), [&devices](const QString &name) {
         return name.startsWith(QLatin1StringView("i2c-")) &&
