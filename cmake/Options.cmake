@@ -6,7 +6,8 @@ target_compile_definitions(quillmere_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
   QT_NO_FOREACH QT_USE_QSTRINGBUILDER
   QT_DISABLE_DEPRECATED_BEFORE=0x060400)
-target_link_options(quillmere_options INTERFACE -Wl,--gc-sections -Wl,-O1 -Wl,--as-needed -Wl,-z,pack-relative-relocs)
+target_link_options(quillmere_options INTERFACE
+  -Wl,--gc-sections -Wl,-O1 -Wl,--as-needed -Wl,-z,pack-relative-relocs)
 if(QUILLMERE_FUZZ)
   set(QUILLMERE_SANITIZE ON)
   target_compile_options(quillmere_options INTERFACE -fsanitize=fuzzer-no-link
@@ -23,5 +24,5 @@ endif()
 add_library(quillmere_compact INTERFACE)
 if(NOT QUILLMERE_SANITIZE)
   target_compile_options(quillmere_compact INTERFACE
-    -Os -ffunction-sections -fdata-sections -fvisibility=hidden -fvisibility-inlines-hidden)
+    $<$<NOT:$<CONFIG:Debug>>:-Os> -ffunction-sections -fdata-sections -fvisibility=hidden -fvisibility-inlines-hidden)
 endif()
